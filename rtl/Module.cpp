@@ -1,0 +1,115 @@
+#ifndef _GNU_SOURCE
+#define _GNU_SOURCE
+#endif
+#include "rtl/Module.h"
+
+#include <dlfcn.h>
+#include <link.h>
+
+#include <algorithm>
+#include <cctype>
+#include <memory>
+
+#include "rtl/Exceptions.h"
+
+namespace Tarvo {
+
+namespace {
+
+std::string ResourceKey(const std::string& AName) {
+  std::string key = AName;
+  std::transform(key.begin(), key.end(), key.begin(), [](unsigned char c) { return char(std::toupper(c)); });
+  return key;
+}
+
+struct TModuleRegistry {
+  std::vector<std::unique_ptr<TModule>> Modules;
+  std::map<int, TModuleUnloadProc> UnloadProcs;
+  int NextKey = 1;
+
+  TModule* ByBase(const void* ABase) {
+    for (auto& m : Modules)
+      if (m->Base() == ABase) return m.get();
+    return nullptr;
+  }
+};
+
+TModuleRegistry& Registry() {
+  static TModuleRegistry registry;
+  return registry;
+}
+
+} // namespace
+
+TModule::TModule(const void* ABase, std::string AFileName, void* AHandle)
+    : FBase(ABase), FFileName(std::move(AFileName)), FHandle(AHandle) {}
+
+std::span<const std::byte> TModule::FindResource(const std::string& AName) const {
+  const auto found = FResources.find(ResourceKey(AName));
+  return found == FResources.end() ? std::span<const std::byte>() : found->second;
+}
+
+void TModule::AddResource(const std::string& AName, std::span<const std::byte> AData) {
+  FResources[ResourceKey(AName)] = AData;
+}
+
+TModule* FindModule(const void* AAddress) {
+  Dl_info info{};
+  if (!AAddress || !dladdr(AAddress, &info) || !info.dli_fbase) return nullptr;
+  TModuleRegistry& registry = Registry();
+  if (TModule* known = registry.ByBase(info.dli_fbase)) return known;
+  registry.Modules.push_back(std::make_unique<TModule>(info.dli_fbase, info.dli_fname ? info.dli_fname : "", nullptr));
+  return registry.Modules.back().get();
+}
+
+TModule* LoadModule(const std::string& APath) {
+  void* handle = dlopen(APath.c_str(), RTLD_NOW | RTLD_LOCAL);
+  if (!handle) {
+    const char* error = dlerror();
+    throw EModuleError("Cannot load module '" + APath + "': " + (error ? error : "unknown error"));
+  }
+  link_map* map = nullptr;
+  TModule* module = nullptr;
+  if (dlinfo(handle, RTLD_DI_LINKMAP, &map) == 0 && map) module = FindModule(map->l_ld);
+  if (!module) {
+    dlclose(handle);
+    throw EModuleError("Cannot locate module '" + APath + "' after loading it");
+  }
+  if (module->FHandle) dlclose(handle); // opened before: keep one reference
+  else module->FHandle = handle;
+  return module;
+}
+
+void UnloadModule(TModule* AModule) {
+  TModuleRegistry& registry = Registry();
+  if (!AModule || !AModule->IsLoaded())
+    throw EModuleError("Only a module opened by LoadModule can be unloaded");
+  // A procedure may add or remove procedures; run the ones present now.
+  const auto procs = registry.UnloadProcs;
+  for (const auto& [key, proc] : procs) proc(AModule);
+  void* handle = AModule->FHandle;
+  std::erase_if(registry.Modules, [AModule](const auto& m) { return m.get() == AModule; });
+  dlclose(handle);
+}
+
+int AddModuleUnloadProc(TModuleUnloadProc AProc) {
+  TModuleRegistry& registry = Registry();
+  const int key = registry.NextKey++;
+  registry.UnloadProcs.emplace(key, std::move(AProc));
+  return key;
+}
+
+void RemoveModuleUnloadProc(int AKey) { Registry().UnloadProcs.erase(AKey); }
+
+std::vector<TModule*> Modules() {
+  std::vector<TModule*> result;
+  for (auto& m : Registry().Modules) result.push_back(m.get());
+  return result;
+}
+
+TResourceRegistration::TResourceRegistration(const char* AName, const void* AData, std::size_t ASize) {
+  if (TModule* module = FindModule(AData))
+    module->AddResource(AName, std::span<const std::byte>(static_cast<const std::byte*>(AData), ASize));
+}
+
+} // namespace Tarvo

@@ -1,0 +1,64 @@
+#pragma once
+// Modules: the executable and each shared library. Classes, type records and named resources
+// know the module that holds them (found by address), so that when a module goes away every
+// registry can sweep out what refers to it.
+
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace Tarvo {
+
+class TModule {
+public:
+  TModule(const void* ABase, std::string AFileName, void* AHandle);
+  TModule(const TModule&) = delete;
+  TModule& operator=(const TModule&) = delete;
+
+  const std::string& FileName() const { return FFileName; }
+  // Load address of the module; the key by which addresses are mapped to it.
+  const void* Base() const { return FBase; }
+  // True for modules opened by LoadModule, which UnloadModule may close.
+  bool IsLoaded() const { return FHandle != nullptr; }
+
+  // A named resource of this module; an empty span when there is none (names are case-insensitive).
+  std::span<const std::byte> FindResource(const std::string& AName) const;
+  void AddResource(const std::string& AName, std::span<const std::byte> AData);
+
+private:
+  friend TModule* LoadModule(const std::string&);
+  friend void UnloadModule(TModule*);
+
+  const void* FBase;
+  std::string FFileName;
+  void* FHandle;
+  std::map<std::string, std::span<const std::byte>> FResources; // by upper-cased name
+};
+
+// The module that holds AAddress (code or data), registered on first sight; nil for an address
+// that no module holds.
+TModule* FindModule(const void* AAddress);
+
+// Opens a shared library as a module; its static registrations run while it opens.
+// Raises EModuleError when it cannot be opened.
+TModule* LoadModule(const std::string& APath);
+// Runs every unload procedure with the module, forgets what it registered, and closes it.
+void UnloadModule(TModule* AModule);
+
+// Procedures run when a module goes away; the key removes one again.
+using TModuleUnloadProc = std::function<void(TModule*)>;
+int AddModuleUnloadProc(TModuleUnloadProc AProc);
+void RemoveModuleUnloadProc(int AKey);
+
+// Every module seen so far, in the order they were met.
+std::vector<TModule*> Modules();
+
+// Names a byte blob compiled into a module; place at namespace scope in the module's source.
+struct TResourceRegistration {
+  TResourceRegistration(const char* AName, const void* AData, std::size_t ASize);
+};
+
+} // namespace Tarvo

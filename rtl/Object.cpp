@@ -1,0 +1,86 @@
+#include "rtl/Object.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "rtl/Module.h"
+#include "rtl/SysUtils.h"
+
+namespace Tarvo {
+
+namespace {
+
+// Every registered class; a module's classes leave with it.
+struct TClassRegistry {
+  std::vector<TClass> Classes;
+
+  TClassRegistry() {
+    AddModuleUnloadProc([this](TModule* AModule) {
+      std::erase_if(Classes, [AModule](TClass c) { return c->Module() == AModule; });
+    });
+  }
+};
+
+TClassRegistry& ClassRegistry() {
+  static TClassRegistry registry;
+  return registry;
+}
+
+} // namespace
+
+TMetaClass::TMetaClass(const char* AName, TClass AParent, TFactory AFactory)
+    : FParent(AParent), FFactory(AFactory) {
+  FTypeRecord.Kind = tkClass;
+  FTypeRecord.Name = AName;
+  FTypeRecord.Ops = &TypeOpsOf<TObject*>;
+  FTypeRecord.ClassType = this;
+}
+
+bool TMetaClass::InheritsFrom(TClass AClass) const {
+  for (TClass c = this; c; c = c->FParent)
+    if (c == AClass) return true;
+  return false;
+}
+
+TModule* TMetaClass::Module() const { return FindModule(this); }
+
+TClass TObject::ClassInfo() {
+  static const TMetaClass metaClass("TObject", nullptr, nullptr);
+  return &metaClass;
+}
+
+bool TObject::GetInterface(const TGUID&, void** AObj) {
+  *AObj = nullptr;
+  return false;
+}
+
+void TObject::Free(TObject* AObject) {
+  if (!AObject) return;
+  AObject->BeforeDestruction();
+  delete AObject;
+}
+
+TObject* ObjectOf(IInterface* AIntf) {
+  void* obj = nullptr;
+  if (AIntf && AIntf->QueryInterface(ObjCastGUID, &obj) == S_OK) return static_cast<TObject*>(obj);
+  return nullptr;
+}
+
+TClassRegistration::TClassRegistration(TClass AClass) { ClassRegistry().Classes.push_back(AClass); }
+
+TClass FindClass(const std::string& AName) {
+  for (TClass c : ClassRegistry().Classes)
+    if (SameText(c->ClassName(), AName)) return c;
+  return nullptr;
+}
+
+namespace Detail {
+void RaiseAbstractClass(TClass AClass) {
+  throw EInvalidCast(std::string("Cannot create an instance of the abstract class ") + AClass->ClassName());
+}
+void RaiseClassMismatch(TClass AClass, TClass ABase) {
+  throw EInvalidCast(std::string("Class ") + AClass->ClassName() + " does not descend from " + ABase->ClassName());
+}
+} // namespace Detail
+
+} // namespace Tarvo
