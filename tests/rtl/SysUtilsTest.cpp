@@ -1,0 +1,276 @@
+#include <gtest/gtest.h>
+
+#include <cfloat>
+#include <cmath>
+#include <limits>
+
+#include "rtl/Exceptions.h"
+#include "rtl/SysUtils.h"
+
+namespace Tarvo {
+namespace {
+
+// Runs AAction and expects EConvertError with exactly AMessage.
+template <class F> void ExpectConvertError(F AAction, const String& AMessage) {
+  try {
+    AAction();
+    ADD_FAILURE() << "no EConvertError, expected: " << AMessage;
+  } catch (const EConvertError& e) {
+    EXPECT_EQ(e.Message(), AMessage);
+  }
+}
+
+TFormatSettings CommaSettings() {
+  TFormatSettings settings;
+  settings.DecimalSeparator = ',';
+  return settings;
+}
+
+// ---- Comparison and trimming ----
+
+TEST(SysUtilsTextTest, ComparisonsFoldAsciiOnly) {
+  EXPECT_TRUE(SameText("TObject", "tobject"));
+  EXPECT_FALSE(SameText("abc", "abcd"));
+  EXPECT_FALSE(SameText("\xC3\xA9", "\xC3\x89")); // bytes above 127 are not folded
+  EXPECT_EQ(CompareText("apple", "APPLE"), 0);
+  EXPECT_LT(CompareText("apple", "Banana"), 0);
+  EXPECT_GT(CompareText("b", "A"), 0);
+  EXPECT_LT(CompareText("ab", "ABC"), 0);
+  EXPECT_GT(CompareText("\xC3\xA9", "z"), 0); // unsigned bytes
+  EXPECT_LT(CompareStr("B", "a"), 0);         // ordinal: upper case first
+  EXPECT_GT(CompareStr("\x80", "a"), 0);
+  EXPECT_EQ(CompareStr("same", "same"), 0);
+  EXPECT_EQ(UpperCase("mIx\xC3\xA9" "d1"), "MIX\xC3\xA9" "D1");
+  EXPECT_EQ(LowerCase("MIX-ed"), "mix-ed");
+}
+
+TEST(SysUtilsTextTest, TrimDropsControlCharacters) {
+  const String text = "\t \x01 a b\r\n";
+  EXPECT_EQ(Trim(text), "a b");
+  EXPECT_EQ(TrimLeft(text), "a b\r\n");
+  EXPECT_EQ(TrimRight(text), "\t \x01 a b");
+  EXPECT_EQ(Trim(" \t "), "");
+  EXPECT_EQ(Trim("\xC2\xA0x"), "\xC2\xA0x"); // UTF-8 bytes are not blanks
+}
+
+// ---- Integers ----
+
+struct TIntRow {
+  const char* Text;
+  bool Ok;
+  Integer Value;
+};
+
+class SysUtilsTryStrToIntTest : public testing::TestWithParam<TIntRow> {};
+
+TEST_P(SysUtilsTryStrToIntTest, Parses) {
+  const TIntRow& row = GetParam();
+  Integer value = 12345;
+  EXPECT_EQ(TryStrToInt(row.Text, value), row.Ok);
+  if (row.Ok) {
+    EXPECT_EQ(value, row.Value);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Forms, SysUtilsTryStrToIntTest,
+                         testing::Values(TIntRow{"0", true, 0}, TIntRow{"-0", true, 0}, TIntRow{"+17", true, 17},
+                                         TIntRow{"-17", true, -17}, TIntRow{"007", true, 7},
+                                         TIntRow{"2147483647", true, INT32_MAX},
+                                         TIntRow{"-2147483648", true, INT32_MIN}, TIntRow{"$1f", true, 31},
+                                         TIntRow{"0x1F", true, 31}, TIntRow{"0X10", true, 16},
+                                         TIntRow{"-$10", true, -16}, TIntRow{"+0x10", true, 16},
+                                         TIntRow{"$FFFFFFFF", true, -1}, TIntRow{"$80000000", true, INT32_MIN},
+                                         TIntRow{"0x7FFFFFFF", true, INT32_MAX}));
+
+INSTANTIATE_TEST_SUITE_P(Rejects, SysUtilsTryStrToIntTest,
+                         testing::Values(TIntRow{"", false, 0}, TIntRow{" ", false, 0}, TIntRow{" 1", false, 0},
+                                         TIntRow{"1 ", false, 0}, TIntRow{"12a", false, 0}, TIntRow{"-", false, 0},
+                                         TIntRow{"$", false, 0}, TIntRow{"0x", false, 0}, TIntRow{"$G", false, 0},
+                                         TIntRow{"1.0", false, 0}, TIntRow{"--1", false, 0},
+                                         TIntRow{"2147483648", false, 0}, TIntRow{"-2147483649", false, 0},
+                                         TIntRow{"$100000000", false, 0},
+                                         TIntRow{"99999999999999999999999", false, 0}));
+
+TEST(SysUtilsIntegerTest, SixtyFourBitForms) {
+  struct Row {
+    const char* Text;
+    bool Ok;
+    Int64 Value;
+  };
+  const Row rows[] = {{"9223372036854775807", true, INT64_MAX},   {"-9223372036854775808", true, INT64_MIN},
+                      {"9223372036854775808", false, 0},          {"$FFFFFFFFFFFFFFFF", true, -1},
+                      {"$FFFFFFFF", true, 4294967295},            {"0x8000000000000000", true, INT64_MIN},
+                      {"$10000000000000000", false, 0},           {"-$1", true, -1}};
+  for (const Row& r : rows) {
+    Int64 value = 0;
+    EXPECT_EQ(TryStrToInt64(r.Text, value), r.Ok) << r.Text;
+    if (r.Ok) {
+      EXPECT_EQ(value, r.Value) << r.Text;
+    }
+  }
+  UInt64 big = 0;
+  EXPECT_TRUE(TryStrToUInt64("18446744073709551615", big));
+  EXPECT_EQ(big, UINT64_MAX);
+  EXPECT_FALSE(TryStrToUInt64("18446744073709551616", big));
+  EXPECT_FALSE(TryStrToUInt64("-1", big));
+}
+
+TEST(SysUtilsIntegerTest, RaisingFormsAndDefaults) {
+  EXPECT_EQ(StrToInt("$7F"), 127);
+  EXPECT_EQ(StrToInt64("-5000000000"), -5000000000);
+  ExpectConvertError([] { StrToInt("12a"); }, "'12a' is not a valid integer value");
+  ExpectConvertError([] { StrToInt64(""); }, "'' is not a valid integer value");
+  EXPECT_EQ(StrToIntDef("x", -3), -3);
+  EXPECT_EQ(StrToIntDef("4", -3), 4);
+}
+
+TEST(SysUtilsIntegerTest, IntegersToText) {
+  EXPECT_EQ(IntToStr(INT64_MIN), "-9223372036854775808");
+  EXPECT_EQ(IntToStr(UINT64_MAX), "18446744073709551615");
+  EXPECT_EQ(IntToStr(-7), "-7");
+  EXPECT_EQ(IntToStr(Byte(200)), "200");
+  EXPECT_EQ(IntToHex(255, 0), "FF");
+  EXPECT_EQ(IntToHex(Byte(10), 4), "000A");
+  EXPECT_EQ(IntToHex(-1, 2), "FFFFFFFF"); // the bits of the argument's own width
+  EXPECT_EQ(IntToHex(Int64(-1), 0), "FFFFFFFFFFFFFFFF");
+  EXPECT_EQ(IntToHex(SmallInt(-2), 0), "FFFE");
+  EXPECT_EQ(IntToHex(0, 0), "0");
+}
+
+// ---- Floats ----
+
+struct TFloatRow {
+  Extended Value;
+  bool AsSingle;
+  const char* Text;
+};
+
+class SysUtilsFloatToStrTest : public testing::TestWithParam<TFloatRow> {};
+
+TEST_P(SysUtilsFloatToStrTest, GeneralForm) {
+  const TFloatRow& row = GetParam();
+  EXPECT_EQ(row.AsSingle ? FloatToStr(Single(row.Value)) : FloatToStr(row.Value), row.Text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, SysUtilsFloatToStrTest,
+    testing::Values(TFloatRow{0.1L, true, "0.1"}, TFloatRow{1.0L / 3, true, "0.3333333"},
+                    TFloatRow{FLT_MAX, true, "3.402823E38"}, TFloatRow{1234567, true, "1234567"},
+                    TFloatRow{12345678, true, "1.234568E7"}, TFloatRow{Extended(0.1f), false, "0.100000001490116"},
+                    TFloatRow{1.0L / 3, false, "0.333333333333333"}, TFloatRow{1e20L, false, "1E20"},
+                    TFloatRow{1.5e-7L, false, "1.5E-7"}, TFloatRow{DBL_MAX, false, "1.79769313486232E308"},
+                    TFloatRow{-FLT_MAX, false, "-3.40282346638529E38"}, TFloatRow{100, false, "100"},
+                    TFloatRow{0.00001L, false, "0.00001"}, TFloatRow{0.0000099L, false, "9.9E-6"},
+                    TFloatRow{1e14L, false, "100000000000000"}, TFloatRow{1e15L, false, "1E15"},
+                    TFloatRow{999999999999999.9L, false, "1E15"}, TFloatRow{-2.5L, false, "-2.5"},
+                    TFloatRow{-0.0L, false, "0"}, TFloatRow{0.0L, false, "0"},
+                    TFloatRow{std::numeric_limits<Extended>::infinity(), false, "INF"},
+                    TFloatRow{-std::numeric_limits<Extended>::infinity(), false, "-INF"},
+                    TFloatRow{std::numeric_limits<Extended>::quiet_NaN(), false, "NAN"}));
+
+TEST(SysUtilsFloatTest, SeparatorComesFromTheSettings) {
+  const TFormatSettings comma = CommaSettings();
+  EXPECT_EQ(FloatToStr(Extended(2.5), comma), "2,5");
+  EXPECT_EQ(FloatToStr(1.5e-7L, comma), "1,5E-7");
+  EXPECT_EQ(CurrToStr(Currency::FromScaled(15000), comma), "1,5");
+  const TFormatSettings saved = FormatSettings;
+  FormatSettings.DecimalSeparator = ',';
+  EXPECT_EQ(FloatToStr(0.25f), "0,25");
+  Extended value = 0;
+  EXPECT_TRUE(TryStrToFloat("0,25", value));
+  FormatSettings = saved;
+  EXPECT_EQ(FloatToStr(0.25f), "0.25");
+  EXPECT_EQ(TFormatSettings::Invariant().DecimalSeparator, '.');
+}
+
+TEST(SysUtilsFloatTest, TextToFloat) {
+  struct Row {
+    const char* Text;
+    bool Ok;
+    Extended Value;
+  };
+  const Row rows[] = {{" 1.5 ", true, 1.5L}, {"-2e3", true, -2000}, {"+.5", true, 0.5L}, {"5.", true, 5},
+                      {"1E-2", true, 0.01L}, {"7e+1", true, 70},   {"", false, 0},     {".", false, 0},
+                      {"1e", false, 0},      {"e5", false, 0},     {"1.2.3", false, 0}, {"1,5", false, 0},
+                      {"abc", false, 0},     {"1 2", false, 0},    {"inf", false, 0},   {"1e99999", false, 0}};
+  for (const Row& r : rows) {
+    Extended value = 0;
+    EXPECT_EQ(TryStrToFloat(r.Text, value, TFormatSettings::Invariant()), r.Ok) << r.Text;
+    if (r.Ok) {
+      EXPECT_EQ(value, r.Value) << r.Text;
+    }
+  }
+  Double narrow = 0;
+  EXPECT_FALSE(TryStrToFloat("1e400", narrow)); // fits Extended, not Double
+  EXPECT_TRUE(TryStrToFloat("1,25", narrow, CommaSettings()));
+  EXPECT_EQ(narrow, 1.25);
+  ExpectConvertError([] { StrToFloat("1.x"); }, "'1.x' is not a valid floating point value");
+}
+
+TEST(SysUtilsFloatTest, CurrencyText) {
+  const std::pair<Int64, const char*> texts[] = {{15000, "1.5"},       {20000, "2"},   {-1, "-0.0001"},
+                                                 {123456789, "12345.6789"}, {0, "0"},
+                                                 {INT64_MIN, "-922337203685477.5808"}};
+  for (const auto& [scaled, text] : texts) EXPECT_EQ(CurrToStr(Currency::FromScaled(scaled)), text);
+  Currency value;
+  EXPECT_TRUE(TryStrToCurr("1.23456", value));
+  EXPECT_EQ(value.Scaled, 12346);
+  EXPECT_TRUE(TryStrToCurr("-12.5", value));
+  EXPECT_EQ(value.Scaled, -125000);
+  EXPECT_FALSE(TryStrToCurr("1e30", value));
+  EXPECT_FALSE(TryStrToCurr("x", value));
+}
+
+TEST(SysUtilsFloatTest, Booleans) {
+  EXPECT_EQ(BoolToStr(true, true), "True");
+  EXPECT_EQ(BoolToStr(false, true), "False");
+  EXPECT_EQ(BoolToStr(true), "-1");
+  EXPECT_EQ(BoolToStr(false), "0");
+  const std::pair<const char*, bool> accepted[] = {{"true", true}, {"FALSE", false}, {"0", false},
+                                                   {"-1", true},   {"0.0", false},   {" 2 ", true}};
+  for (const auto& [text, expected] : accepted) {
+    Boolean value = !expected;
+    EXPECT_TRUE(TryStrToBool(text, value)) << text;
+    EXPECT_EQ(value, expected) << text;
+  }
+  Boolean value = false;
+  EXPECT_FALSE(TryStrToBool("yes", value));
+  EXPECT_FALSE(TryStrToBool("", value));
+}
+
+// ---- Format ----
+
+TEST(SysUtilsFormatTest, Directives) {
+  const String name = "Caption";
+  const std::pair<String, const char*> rows[] = {
+      {Format("Value must be between %d and %d", {1, 5}), "Value must be between 1 and 5"},
+      {Format("'%s' is not a valid date", {name}), "'Caption' is not a valid date"},
+      {Format("%s%s", {"a", 'b'}), "ab"},
+      {Format("100%%", {}), "100%"},
+      {Format("%d|%d|%u", {INT64_MIN, UINT64_MAX, Byte(7)}), "-9223372036854775808|18446744073709551615|7"},
+      {Format("%u %x", {-1, SmallInt(-1)}), "4294967295 FFFF"},
+      {Format("%x %.4x %X", {255, 10, Int64(-1)}), "FF 000A FFFFFFFFFFFFFFFF"},
+      {Format("[%5d][%-5d][%.3d][%6.3d]", {42, 42, -7, 7}), "[   42][42   ][-007][   007]"},
+      {Format("[%4s][%-4s][%.2s]", {"ab", "ab", "abcdef"}), "[  ab][ab  ][ab]"},
+      {Format("%f %.3f %.0f", {2.0, 3.14159, 2.5}), "2.00 3.142 2"},
+      {Format("%g %.3g %g", {0.1, 2.0 / 3, 1e20}), "0.1 0.667 1E20"},
+      {Format("%1:s %0:s %s", {"a", "b"}), "b a b"},
+      {Format("%.1f", {1.25}, CommaSettings()), "1,2"},
+      {Format("%d", {1, 2}), "1"}, // extra arguments are ignored
+  };
+  for (const auto& [actual, expected] : rows) EXPECT_EQ(actual, expected);
+}
+
+TEST(SysUtilsFormatTest, MismatchesRaise) {
+  ExpectConvertError([] { Format("%d", {"x"}); }, "Format '%d' invalid or incompatible with argument");
+  ExpectConvertError([] { Format("%s", {1}); }, "Format '%s' invalid or incompatible with argument");
+  ExpectConvertError([] { Format("%x", {1.5}); }, "Format '%x' invalid or incompatible with argument");
+  ExpectConvertError([] { Format("%f", {1}); }, "Format '%f' invalid or incompatible with argument");
+  ExpectConvertError([] { Format("%q", {1}); }, "Format '%q' invalid or incompatible with argument");
+  ExpectConvertError([] { Format("50%", {1}); }, "Format '50%' invalid or incompatible with argument");
+  ExpectConvertError([] { Format("%d and %d", {1}); }, "No argument for format '%d and %d'");
+  ExpectConvertError([] { Format("%3:d", {1}); }, "No argument for format '%3:d'");
+}
+
+} // namespace
+} // namespace Tarvo
