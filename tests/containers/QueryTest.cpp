@@ -1,0 +1,245 @@
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "containers/Query.h"
+
+namespace Tarvo {
+namespace {
+
+// A collection that counts how it is walked, so that tests see when and how far a query runs.
+class TInts : public TImplements<TInterfacedObject, IEnumerable<Integer>> {
+public:
+  class TWalk : public TBasicEnumerator<Integer> {
+  public:
+    explicit TWalk(TRef<TInts> AOwner) : FOwner(std::move(AOwner)) {}
+    void Reset() override { FIndex = -1; }
+    bool MoveNext() override {
+      ++FOwner->MoveNextCalls;
+      return ++FIndex < static_cast<Integer>(FOwner->Items.size());
+    }
+    Integer GenericGetCurrent() override { return FOwner->Items.at(FIndex); }
+
+  private:
+    TRef<TInts> FOwner;
+    Integer FIndex = -1;
+  };
+
+  explicit TInts(std::vector<Integer> AItems = {}) : Items(std::move(AItems)) {}
+  TRef<IEnumerator<Integer>> GetEnumerator() override {
+    ++Walks;
+    return New<TWalk>(TRef<TInts>(this));
+  }
+
+  std::vector<Integer> Items;
+  int Walks = 0;
+  int MoveNextCalls = 0;
+};
+
+using TIntsRef = TRef<TInts>;
+using TIntQuery = IContainerQuery<TIntsRef, TIntsRef, Integer>;
+
+TRef<TIntQuery> QueryOf(const TIntsRef& ASource) {
+  return New<TContainerQuery<TIntsRef, TIntsRef, Integer>>(
+      [ASource] { return ASource->GetEnumerator(); }, [] { return New<TInts>(); },
+      [](TIntsRef AInto, Integer AItem) { AInto->Items.push_back(AItem); }, ASource);
+}
+
+TRef<IEnumerable<Integer>> Ints(std::vector<Integer> AItems) { return New<TInts>(std::move(AItems)); }
+
+const TConstFunc<Integer, Boolean> IsEven = [](const Integer& AItem) { return AItem % 2 == 0; };
+
+// ---- Questions ----
+
+TEST(QueryTest, EqualsWalksBothToTheEnd) {
+  const auto query = QueryOf(New<TInts>(std::vector<Integer>{1, 2, 3}));
+  const TConstFunc<Integer, Integer, Boolean> sameLastDigit = [](const Integer& A, const Integer& B) {
+    return A % 10 == B % 10;
+  };
+  struct TCase {
+    std::vector<Integer> Other;
+    bool ByComparer, ByLastDigit;
+  } cases[] = {{{1, 2, 3}, true, true},    {{1, 2, 4}, false, false}, {{1, 2}, false, false},
+               {{1, 2, 3, 4}, false, false}, {{11, 2, 23}, false, true}, {{}, false, false}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(query->Equals(Ints(c.Other)), c.ByComparer) << c.Other.size();
+    EXPECT_EQ(query->Equals(Ints(c.Other), sameLastDigit), c.ByLastDigit) << c.Other.size();
+  }
+  EXPECT_TRUE(QueryOf(New<TInts>())->Equals(Ints({})));
+}
+
+TEST(QueryTest, ContainsAndCount) {
+  const auto query = QueryOf(New<TInts>(std::vector<Integer>{5, 2, 5, 7}));
+  EXPECT_TRUE(query->Contains(7));
+  EXPECT_FALSE(query->Contains(3));
+  EXPECT_TRUE(query->Contains(IsEven));
+  EXPECT_EQ(query->Count(5), 2);
+  EXPECT_EQ(query->Count(9), 0);
+  EXPECT_EQ(query->Count([](const Integer& AItem) { return AItem > 4; }), 3);
+  EXPECT_TRUE(query->ContainsAny(Ints({9, 8, 7})));
+  EXPECT_FALSE(query->ContainsAny(Ints({9, 8})));
+  EXPECT_FALSE(query->ContainsAny(Ints({})));
+}
+
+TEST(QueryTest, FailedSearchesGiveTheDefaults) {
+  const auto query = QueryOf(New<TInts>(std::vector<Integer>{3, 4, 6, 4}));
+  Integer item = 99, index = 99;
+  IQuery<Integer>& asked = *query; // the Boolean Find; the container query's own is fluent
+  EXPECT_TRUE(asked.Find(IsEven, item));
+  EXPECT_EQ(item, 4);
+  EXPECT_FALSE(asked.Find([](const Integer& A) { return A > 9; }, item));
+  EXPECT_EQ(item, 0);
+  EXPECT_TRUE(query->IndexOf(4, index));
+  EXPECT_EQ(index, 1);
+  EXPECT_FALSE(query->IndexOf(5, index));
+  EXPECT_EQ(index, -1);
+  EXPECT_TRUE(query->IndexOf(IsEven, index));
+  EXPECT_EQ(index, 1);
+
+  const auto empty = QueryOf(New<TInts>());
+  item = 99;
+  EXPECT_TRUE(empty->IsEmpty());
+  EXPECT_FALSE(query->IsEmpty());
+  EXPECT_EQ(empty->First(), 0);
+  EXPECT_FALSE(empty->First(item));
+  EXPECT_EQ(item, 0);
+  EXPECT_EQ(query->First(), 3);
+}
+
+TEST(QueryTest, EveryRunWalksTheSourceAsItStandsThen) {
+  const auto source = New<TInts>(std::vector<Integer>{1, 2});
+  const auto query = QueryOf(source);
+  EXPECT_EQ(query->Count(IsEven), 1);
+  source->Items = {2, 4, 6};
+  EXPECT_EQ(query->Count(IsEven), 3);
+  EXPECT_EQ(source->Walks, 2);
+}
+
+TEST(QueryTest, QueryKeepsItsSourceAlive) {
+  TRef<TIntQuery> query;
+  {
+    const auto source = New<TInts>(std::vector<Integer>{1});
+    query = QueryOf(source);
+  }
+  EXPECT_EQ(query->First(), 1);
+}
+
+// ---- Collections made by a query ----
+
+TEST(QueryTest, FilterIsEagerAndLeavesTheSource) {
+  const auto source = New<TInts>(std::vector<Integer>{1, 2, 3, 4});
+  int calls = 0;
+  const auto evens = QueryOf(source)->Filter([&](const Integer& A) { return ++calls, A % 2 == 0; });
+  EXPECT_EQ(calls, 4);
+  source->Items.push_back(6);
+  EXPECT_EQ(evens->Items, (std::vector<Integer>{2, 4}));
+  EXPECT_EQ(source->Items.size(), 5u);
+}
+
+TEST(QueryTest, SkipAndTakeBoundaries) {
+  const std::vector<Integer> items{1, 2, 3, 4, 5};
+  struct TCase {
+    Integer Count;
+    std::vector<Integer> Skipped, Taken;
+  } cases[] = {{0, items, {}},   {-2, items, {}},  {2, {3, 4, 5}, {1, 2}},
+               {5, {}, items}, {9, {}, items}};
+  for (const auto& c : cases) {
+    const auto source = New<TInts>(items);
+    const auto skipped = QueryOf(source)->Skip(c.Count);
+    const auto taken = QueryOf(source)->Take(c.Count);
+    EXPECT_EQ(skipped->Items, c.Skipped) << c.Count;
+    EXPECT_EQ(taken->Items, c.Taken) << c.Count;
+    EXPECT_NE(skipped.get(), source.get()) << "a copy, never the source";
+  }
+}
+
+TEST(QueryTest, TakeStopsOneStepPastTheLastTaken) {
+  const auto source = New<TInts>(std::vector<Integer>{1, 2, 3, 4, 5});
+  QueryOf(source)->Take(2);
+  EXPECT_EQ(source->MoveNextCalls, 3);
+}
+
+// ---- Fluent operations ----
+
+TEST(QueryTest, FluentOperationsHandBackTheSource) {
+  const auto source = New<TInts>(std::vector<Integer>{3, 4, 6});
+  const auto query = QueryOf(source);
+  std::vector<Integer> seen;
+  std::vector<Integer> indices;
+  EXPECT_EQ(query->ForEach([&](const Integer& A) { seen.push_back(A); }), source);
+  EXPECT_EQ(query->ForEach([&](const Integer& AIndex, const Integer& A) { indices.push_back(AIndex * 10 + A); }), source);
+  EXPECT_EQ(seen, (std::vector<Integer>{3, 4, 6}));
+  EXPECT_EQ(indices, (std::vector<Integer>{3, 14, 26}));
+
+  seen.clear();
+  const TConstProc<Integer> collect = [&](const Integer& A) { seen.push_back(A); };
+  EXPECT_EQ(query->ForFirst(collect), source);
+  EXPECT_EQ(query->ForFirstMatch(IsEven, collect), source);
+  EXPECT_EQ(query->ForFirstMatch([](const Integer& A) { return A > 9; }, collect), source);
+  EXPECT_EQ(QueryOf(New<TInts>())->ForFirst(collect)->Items.size(), 0u);
+  EXPECT_EQ(seen, (std::vector<Integer>{3, 4}));
+
+  Integer item = 99;
+  EXPECT_EQ(query->Find([](const Integer& A) { return A > 9; }, item), source);
+  EXPECT_EQ(item, 0);
+  EXPECT_EQ(query->Find(IsEven, collect), source);
+  EXPECT_EQ(seen.back(), 4);
+
+  TIntsRef handed;
+  EXPECT_EQ(query->Do([&](TIntsRef A) { handed = A; }), source);
+  EXPECT_EQ(handed, source);
+}
+
+TEST(QueryTest, AccessIsMadeOnceAndReadsTheQuery) {
+  const auto source = New<TInts>(std::vector<Integer>{7});
+  const auto query = QueryOf(source);
+  auto* access = query->Access();
+  EXPECT_EQ(query->Access(), access);
+  EXPECT_EQ(access->Collection(), source);
+  const auto walk = access->CreateEnumerator();
+  ASSERT_TRUE(walk->MoveNext());
+  EXPECT_EQ(walk->GenericGetCurrent(), 7);
+}
+
+TEST(QueryTest, AnswersItsInterfaces) {
+  const TRef<IInterface> query = QueryOf(New<TInts>());
+  EXPECT_TRUE((Supports<IQuery<Integer>>(query)));
+  EXPECT_TRUE((Supports<IBasicContainerQuery<TIntsRef, Integer>>(query)));
+  EXPECT_TRUE((Supports<TIntQuery>(query)));
+}
+
+// ---- Assertions ----
+
+TEST(QueryTest, NilArgumentsAreAssertionFailures) {
+  const auto query = QueryOf(New<TInts>(std::vector<Integer>{1}));
+  const TConstFunc<Integer, Boolean> noPredicate;
+  const TConstProc<Integer> noProc;
+  const TConstProc<Integer> proc = [](const Integer&) {};
+  Integer item = 0;
+  const std::function<void()> calls[] = {
+      [&] { query->Equals(nullptr); },
+      [&] { query->ContainsAny(nullptr); },
+      [&] { query->Contains(noPredicate); },
+      [&] { query->Count(noPredicate); },
+      [&] { query->Find(noPredicate, item); },
+      [&] { static_cast<IQuery<Integer>&>(*query).Find(noPredicate, item); },
+      [&] { static_cast<IQuery<Integer>&>(*query).Find(IsEven, noProc); },
+      [&] { query->IndexOf(noPredicate, item); },
+      [&] { query->Filter(noPredicate); },
+      [&] { query->ForEach(noProc); },
+      [&] { query->ForEach(TConstProc<Integer, Integer>()); },
+      [&] { query->ForFirst(noProc); },
+      [&] { query->ForFirstMatch(noPredicate, proc); },
+      [&] { query->ForFirstMatch(IsEven, noProc); },
+      [&] { query->Do(nullptr); },
+      [] { New<TQuery<Integer>>(nullptr); },
+      [] { New<TContainerQuery<TIntsRef, TIntsRef, Integer>>([] { return Ints({})->GetEnumerator(); }, nullptr,
+                                                             [](TIntsRef, Integer) {}, nullptr); },
+      [] { New<TContainerQuery<TIntsRef, TIntsRef, Integer>>([] { return Ints({})->GetEnumerator(); },
+                                                             [] { return New<TInts>(); }, nullptr, nullptr); },
+  };
+  for (std::size_t i = 0; i < std::size(calls); ++i) EXPECT_THROW(calls[i](), EAssertionFailed) << "call " << i;
+}
+
+} // namespace
+} // namespace Tarvo
