@@ -12,6 +12,8 @@
 
 namespace Tarvo {
 
+class TMetaClass;
+
 class TModule {
 public:
   TModule(const void* ABase, std::string AFileName, void* AHandle);
@@ -28,6 +30,10 @@ public:
   std::span<const std::byte> FindResource(const std::string& AName) const;
   void AddResource(const std::string& AName, std::span<const std::byte> AData);
 
+  // The classes this module registered, in registration order; they leave with the module.
+  const std::vector<const TMetaClass*>& Classes() const { return FClasses; }
+  void AddClass(const TMetaClass* AClass) { FClasses.push_back(AClass); }
+
 private:
   friend TModule* LoadModule(const std::string&);
   friend void UnloadModule(TModule*);
@@ -36,6 +42,7 @@ private:
   std::string FFileName;
   void* FHandle;
   std::map<std::string, std::span<const std::byte>> FResources; // by upper-cased name
+  std::vector<const TMetaClass*> FClasses;
 };
 
 // The module that holds AAddress (code or data), registered on first sight; nil for an address
@@ -45,7 +52,8 @@ TModule* FindModule(const void* AAddress);
 // Opens a shared library as a module; its static registrations run while it opens.
 // Raises EModuleError when it cannot be opened.
 TModule* LoadModule(const std::string& APath);
-// Runs every unload procedure with the module, forgets what it registered, and closes it.
+// Runs every unload procedure with the module, then forgets its classes and resources and
+// closes it.
 void UnloadModule(TModule* AModule);
 
 // Procedures run when a module goes away; the key removes one again.

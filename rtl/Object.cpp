@@ -1,32 +1,9 @@
 #include "rtl/Object.h"
 
-#include <algorithm>
-#include <vector>
-
 #include "rtl/Module.h"
 #include "rtl/SysUtils.h"
 
 namespace Tarvo {
-
-namespace {
-
-// Every registered class; a module's classes leave with it.
-struct TClassRegistry {
-  std::vector<TClass> Classes;
-
-  TClassRegistry() {
-    AddModuleUnloadProc([this](TModule* AModule) {
-      std::erase_if(Classes, [AModule](TClass c) { return c->Module() == AModule; });
-    });
-  }
-};
-
-TClassRegistry& ClassRegistry() {
-  static TClassRegistry registry;
-  return registry;
-}
-
-} // namespace
 
 TMetaClass::TMetaClass(const char* AName, TClass AParent, TFactory AFactory)
     : FParent(AParent), FFactory(AFactory) {
@@ -66,11 +43,14 @@ TObject* ObjectOf(IInterface* AIntf) {
   return nullptr;
 }
 
-TClassRegistration::TClassRegistration(TClass AClass) { ClassRegistry().Classes.push_back(AClass); }
+TClassRegistration::TClassRegistration(TClass AClass) {
+  if (TModule* module = AClass->Module()) module->AddClass(AClass);
+}
 
 TClass FindClass(const std::string& AName) {
-  for (TClass c : ClassRegistry().Classes)
-    if (SameText(c->ClassName(), AName)) return c;
+  for (TModule* module : Modules())
+    for (TClass c : module->Classes())
+      if (SameText(c->ClassName(), AName)) return c;
   return nullptr;
 }
 

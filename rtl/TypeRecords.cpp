@@ -1,8 +1,7 @@
 #include "rtl/TypeRecords.h"
 
-#include <cstring>
-
 #include "rtl/Module.h"
+#include "rtl/SysUtils.h"
 #include "rtl/Variant.h"
 
 namespace Tarvo {
@@ -19,15 +18,6 @@ constexpr TTypeInfo CharTypeRecord(const char* AName, TTypeKind AKind, const TTy
   r.OrdType = AOrdType;
   r.MaxValue = AMax;
   return r;
-}
-
-bool AsciiSameText(std::string_view A, std::string_view B) {
-  if (A.size() != B.size()) return false;
-  for (std::size_t i = 0; i < A.size(); ++i) {
-    auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c; };
-    if (lower(A[i]) != lower(B[i])) return false;
-  }
-  return true;
 }
 } // namespace
 
@@ -92,10 +82,12 @@ std::string_view TTypeInfo::EnumName(Int64 AOrdinal) const {
 
 Int64 TTypeInfo::EnumValue(std::string_view AName) const {
   for (std::size_t i = 0; i < Names.size(); ++i)
-    if (AsciiSameText(Names[i], AName)) return MinValue + Int64(i);
+    if (SameText(Names[i], AName)) return MinValue + Int64(i);
   return -1;
 }
 
-TModule* TTypeInfo::Module() const { return FindModule(this); }
+// By the address of the name: an executable may hold a copy of a library's record (a copy
+// relocation), but the name it points to stays in the module that defined the record.
+TModule* TTypeInfo::Module() const { return FindModule(Name); }
 
 } // namespace Tarvo

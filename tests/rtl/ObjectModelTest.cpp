@@ -1,0 +1,170 @@
+#include <gtest/gtest.h>
+
+#include "rtl/InterfacedObject.h"
+
+namespace Tarvo {
+namespace {
+
+// ---- GUIDs ----
+
+TEST(GuidTest, TextFormRoundTrips) {
+  constexpr TGUID g = TGUID::Parse("{2251EB18-27B0-4C55-A4AC-4489C9076287}");
+  static_assert(g.D1 == 0x2251EB18 && g.D2 == 0x27B0 && g.D3 == 0x4C55 && g.D4[0] == 0xA4 && g.D4[7] == 0x87);
+  EXPECT_EQ(g.ToString(), "{2251EB18-27B0-4C55-A4AC-4489C9076287}");
+  EXPECT_EQ(TGUID::FromString("2251eb18-27b0-4c55-a4ac-4489c9076287"), g);
+}
+
+TEST(GuidTest, MalformedTextIsRefused) {
+  for (const char* text : {"", "{}", "{2251EB18-27B0-4C55-A4AC-4489C907628}", "{2251EB18-27B0-4C55-A4AC-4489C907628G}",
+                           "{2251EB18+27B0-4C55-A4AC-4489C9076287}", "(2251EB18-27B0-4C55-A4AC-4489C9076287)"}) {
+    TGUID g;
+    EXPECT_FALSE(TGUID::TryParse(text, g)) << text;
+    EXPECT_THROW(TGUID::FromString(text), EConvertError) << text;
+  }
+}
+
+// ---- Interfaces and reference counts ----
+
+class IGreeter : public virtual IInterface {
+  TARVO_INTERFACE(IGreeter, IInterface, "{0B7C3D7E-1F4A-4E57-9C1B-2F3D4E5A6B70}")
+public:
+  virtual std::string Greet() = 0;
+};
+
+class ILoudGreeter : public virtual IGreeter {
+  TARVO_INTERFACE(ILoudGreeter, IGreeter, "{0B7C3D7E-1F4A-4E57-9C1B-2F3D4E5A6B71}")
+public:
+  virtual std::string Shout() = 0;
+};
+
+class ICounter : public virtual IInterface {
+  TARVO_INTERFACE(ICounter, IInterface, "{0B7C3D7E-1F4A-4E57-9C1B-2F3D4E5A6B72}")
+public:
+  virtual int Next() = 0;
+};
+
+class TGreeter : public TImplements<TInterfacedObject, ILoudGreeter, ICounter> {
+public:
+  // Hands out and drops a reference to itself while constructing: the guard keeps it alive.
+  explicit TGreeter(int* ADestroyed) : FDestroyed(ADestroyed) { TRef<IGreeter> self(this); }
+  ~TGreeter() override { ++*FDestroyed; }
+  std::string Greet() override { return "hello"; }
+  std::string Shout() override { return "HELLO"; }
+  int Next() override { return ++FCount; }
+
+private:
+  int* FDestroyed;
+  int FCount = 0;
+};
+
+TEST(InterfaceTest, ConstructionGuardAndReleaseByScope) {
+  int destroyed = 0;
+  {
+    TRef<TGreeter> greeter = New<TGreeter>(&destroyed);
+    EXPECT_EQ(destroyed, 0);
+    EXPECT_EQ(greeter->RefCount(), 1);
+    TRef<IGreeter> copy = greeter;
+    EXPECT_EQ(greeter->RefCount(), 2);
+  }
+  EXPECT_EQ(destroyed, 1);
+}
+
+TEST(InterfaceTest, SupportsAnswersListedInterfacesAndTheirParents) {
+  int destroyed = 0;
+  {
+    TRef<IGreeter> greeter = New<TGreeter>(&destroyed);
+    TRef<ILoudGreeter> loud;
+    ASSERT_TRUE(Supports(greeter, loud));
+    EXPECT_EQ(loud->Shout(), "HELLO");
+    EXPECT_TRUE(Supports<ICounter>(greeter));
+    EXPECT_TRUE(Supports<IInterface>(greeter));
+    EXPECT_EQ(QueryAs<ICounter>(loud)->Next(), 1);
+    // Both references denote the same object.
+    EXPECT_TRUE(loud == greeter);
+    EXPECT_EQ(ObjectOf(greeter), ObjectOf(loud));
+    EXPECT_NE(ObjectOf(greeter), nullptr);
+  }
+  EXPECT_EQ(destroyed, 1);
+}
+
+TEST(InterfaceTest, FailedQueryLeavesNil) {
+  class TPlain : public TInterfacedObject {};
+  TRef<IInterface> plain = New<TPlain>();
+  TRef<IGreeter> greeter;
+  EXPECT_FALSE(Supports(plain, greeter));
+  EXPECT_FALSE(greeter);
+  void* obj = reinterpret_cast<void*>(1);
+  EXPECT_EQ(plain->QueryInterface(IGreeter::IID, &obj), E_NOINTERFACE);
+  EXPECT_EQ(obj, nullptr);
+}
+
+// ---- Objects and metaclasses ----
+
+class TShapeBase : public TObject {
+  TARVO_CLASS(TShapeBase, TObject)
+public:
+  using TConstructor = TConstructorSignature<std::string>;
+  explicit TShapeBase(std::string AName) : Name(std::move(AName)) {}
+  virtual int Corners() const = 0;
+  std::string Name;
+  void AfterConstruction() override { Constructed = true; }
+  bool Constructed = false;
+};
+
+class TSquare : public TShapeBase {
+  TARVO_CLASS(TSquare, TShapeBase)
+public:
+  using TShapeBase::TShapeBase;
+  int Corners() const override { return 4; }
+};
+
+class TTriangle : public TShapeBase {
+  TARVO_CLASS(TTriangle, TShapeBase)
+public:
+  using TShapeBase::TShapeBase;
+  int Corners() const override { return 3; }
+};
+
+TARVO_IMPLEMENT_CLASS(TShapeBase)
+TARVO_IMPLEMENT_CLASS(TSquare)
+TARVO_IMPLEMENT_CLASS(TTriangle)
+
+TEST(MetaClassTest, NamesParentsAndInheritance) {
+  EXPECT_STREQ(TSquare::ClassInfo()->ClassName(), "TSquare");
+  EXPECT_EQ(TSquare::ClassInfo()->ClassParent(), TShapeBase::ClassInfo());
+  EXPECT_TRUE(TSquare::ClassInfo()->InheritsFrom(TObject::ClassInfo()));
+  EXPECT_TRUE(TSquare::ClassInfo()->InheritsFrom(TSquare::ClassInfo()));
+  EXPECT_FALSE(TSquare::ClassInfo()->InheritsFrom(TTriangle::ClassInfo()));
+  EXPECT_FALSE(TShapeBase::ClassInfo()->InheritsFrom(TSquare::ClassInfo()));
+  EXPECT_EQ(TSquare::ClassInfo()->ClassTypeRecord()->Kind, tkClass);
+  EXPECT_EQ(TSquare::ClassInfo()->ClassTypeRecord()->ClassType, TSquare::ClassInfo());
+  EXPECT_NE(TSquare::ClassInfo()->Module(), nullptr);
+}
+
+TEST(MetaClassTest, VirtualConstructorBuildsTheReferencedClass) {
+  const TClassOf<TShapeBase> shapes[] = {TSquare::ClassInfo(), TTriangle::ClassInfo()};
+  int corners = 0;
+  for (const auto& shapeClass : shapes) {
+    TShapeBase* shape = shapeClass.Create(std::string("s"));
+    EXPECT_EQ(shape->ClassType(), shapeClass.get());
+    EXPECT_TRUE(shape->Constructed);
+    corners += shape->Corners();
+    TObject::Free(shape);
+  }
+  EXPECT_EQ(corners, 7);
+}
+
+TEST(MetaClassTest, AbstractClassAndForeignClassAreRefused) {
+  EXPECT_THROW(TClassOf<TShapeBase>(TShapeBase::ClassInfo()).Create(std::string()), EInvalidCast);
+  EXPECT_THROW(TClassOf<TSquare>(TTriangle::ClassInfo()), EInvalidCast);
+}
+
+TEST(MetaClassTest, RegisteredClassesAreFoundByNameInAnyCase) {
+  EXPECT_EQ(FindClass("TTriangle"), TTriangle::ClassInfo());
+  EXPECT_EQ(FindClass("ttriangle"), TTriangle::ClassInfo());
+  EXPECT_EQ(FindClass("TInterfacedObject"), TInterfacedObject::ClassInfo());
+  EXPECT_EQ(FindClass("TNoSuchClass"), nullptr);
+}
+
+} // namespace
+} // namespace Tarvo
