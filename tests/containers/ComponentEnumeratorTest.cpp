@@ -55,19 +55,17 @@ private:
 using TNames = std::vector<String>;
 
 TEST_F(ComponentEnumeratorTest, WalkOrders) {
-  EXPECT_EQ(Names<TComponentEnumerator<TNode*>>(&Root), (TNames{"A", "B", "C"}));
-  EXPECT_EQ(Names<TComponentReverseEnumerator<TNode*>>(&Root), (TNames{"C", "B", "A"}));
-  EXPECT_EQ(Names<TComponentEnumeratorRecursive<TNode*>>(&Root), (TNames{"A", "A1", "A1a", "A2", "B", "C", "C1"}));
-  EXPECT_EQ(Names<TComponentReverseEnumeratorRecursive<TNode*>>(&Root),
-            (TNames{"C1", "C", "B", "A2", "A1a", "A1", "A"}));
-}
-
-TEST_F(ComponentEnumeratorTest, LeafHasNothingToWalk) {
   TNode leaf{"Leaf", {}};
-  EXPECT_TRUE(Names<TComponentEnumerator<TNode*>>(&leaf).empty());
-  EXPECT_TRUE(Names<TComponentReverseEnumerator<TNode*>>(&leaf).empty());
-  EXPECT_TRUE(Names<TComponentEnumeratorRecursive<TNode*>>(&leaf).empty());
-  EXPECT_TRUE(Names<TComponentReverseEnumeratorRecursive<TNode*>>(&leaf).empty());
+  const std::pair<TNames, TNames> walks[] = {
+      {Names<TComponentEnumerator<TNode*>>(&Root), {"A", "B", "C"}},
+      {Names<TComponentReverseEnumerator<TNode*>>(&Root), {"C", "B", "A"}},
+      {Names<TComponentEnumeratorRecursive<TNode*>>(&Root), {"A", "A1", "A1a", "A2", "B", "C", "C1"}},
+      {Names<TComponentReverseEnumeratorRecursive<TNode*>>(&Root), {"C1", "C", "B", "A2", "A1a", "A1", "A"}},
+      {Names<TComponentEnumerator<TNode*>>(&leaf), {}},
+      {Names<TComponentReverseEnumerator<TNode*>>(&leaf), {}},
+      {Names<TComponentEnumeratorRecursive<TNode*>>(&leaf), {}},
+      {Names<TComponentReverseEnumeratorRecursive<TNode*>>(&leaf), {}}};
+  for (std::size_t i = 0; i < std::size(walks); ++i) EXPECT_EQ(walks[i].first, walks[i].second) << "walk " << i;
 }
 
 TEST_F(ComponentEnumeratorTest, ResetInsideASubtreeStartsOver) {
