@@ -1,0 +1,49 @@
+#pragma once
+// Shared pieces of the list tests: an element that counts the handlers installed on it, a
+// notification counter, and a walk that collects what an enumerator yields.
+
+#include <vector>
+
+#include "containers/List.h"
+
+namespace Tarvo::Testing {
+
+class TTestElement : public TInterfacedChangeNotifyObject {
+public:
+  TNotifyHandler AddChangeHandler(TProc<> AHandler) override {
+    ++ChangeHandlers;
+    return TInterfacedChangeNotifyObject::AddChangeHandler(std::move(AHandler));
+  }
+  void RemoveChangeHandler(const TNotifyHandler& AHandler) override {
+    --ChangeHandlers;
+    TInterfacedChangeNotifyObject::RemoveChangeHandler(AHandler);
+  }
+  TNotifyHandler AddDestructionHandler(TProc<> AHandler) override {
+    ++DestructionHandlers;
+    return TInterfacedChangeNotifyObject::AddDestructionHandler(std::move(AHandler));
+  }
+  void RemoveDestructionHandler(const TNotifyHandler& AHandler) override {
+    --DestructionHandlers;
+    TInterfacedChangeNotifyObject::RemoveDestructionHandler(AHandler);
+  }
+
+  int ChangeHandlers = 0;
+  int DestructionHandlers = 0;
+};
+
+struct TCounter {
+  int Count = 0;
+  TProc<> Handler() {
+    return [this] { ++Count; };
+  }
+};
+
+template <class T> std::vector<T> Walk(const TRef<IEnumerator<T>>& AEnumerator) {
+  std::vector<T> result;
+  while (AEnumerator->MoveNext()) result.push_back(AEnumerator->GenericGetCurrent());
+  return result;
+}
+
+template <class L> auto Contents(const TRef<L>& AList) { return Walk(AList->GetEnumerator()); }
+
+} // namespace Tarvo::Testing
