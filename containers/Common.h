@@ -139,6 +139,11 @@ public:
   virtual TRef<IEnumerator<T>> GetReverseEnumerator() = 0;
 };
 
+// A range-for over a returned reference keeps the reference for the whole loop:
+// for (auto item : list->GetReverse()).
+template <class I> auto begin(const TRef<I>& AEnumerable) { return AEnumerable->begin(); }
+template <class I> auto end(const TRef<I>& AEnumerable) { return AEnumerable->end(); }
+
 // ---- Change notification ----
 
 // A handler as handed back by the add operations; removing takes the same handler again.

@@ -10,8 +10,8 @@ namespace Tarvo {
 
 template <class T> concept CHasTypeRecord = requires { TTypeRecordOf<std::remove_cvref_t<T>>::Get(); };
 
-// An element as a TValue of its type. Element types without a type record (interfaces, plain
-// records) have no value form and raise EInvalidCast.
+// An element as a TValue of its type. Element types without a type record (plain records)
+// have no value form and raise EInvalidCast.
 template <class T> TValue ElementToValue(const T& AItem) {
   if constexpr (std::is_same_v<T, TValue>) return AItem;
   else if constexpr (CHasTypeRecord<T>) return TValue::From<T>(AItem);

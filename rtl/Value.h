@@ -13,6 +13,23 @@ namespace Tarvo {
 
 class Variant;
 
+template <class T> struct TIsInterfaceRef : std::false_type {};
+template <class I> struct TIsInterfaceRef<TRef<I>> : std::true_type {};
+
+// Interface references have records of kind tkInterface that carry the IID; every interface
+// value is held as a TRef<IInterface>, whatever interface it was made from.
+template <class I> struct TTypeRecordOf<TRef<I>> {
+  static PTypeInfo Get() {
+    static const TTypeInfo record = [] {
+      TTypeInfo r = TypeRecordOfKind<TRef<IInterface>>(I::InterfaceName, tkInterface);
+      r.Guid = I::IID;
+      if constexpr (!std::is_void_v<typename I::TParentInterface>) r.IntfParent = TypeInfo<TRef<typename I::TParentInterface>>();
+      return r;
+    }();
+    return &record;
+  }
+};
+
 class TValue {
 public:
   TValue() noexcept = default;
@@ -39,7 +56,8 @@ public:
   // A value of the default record of T, or of a named record that T represents.
   template <class T> static TValue From(const T& AValue, PTypeInfo ATypeInfo = TypeInfo<T>()) {
     static_assert(!std::is_same_v<T, TValue>);
-    return Make(&AValue, ATypeInfo);
+    if constexpr (TIsInterfaceRef<T>::value) return FromInterface(AValue, ATypeInfo);
+    else return Make(&AValue, ATypeInfo);
   }
   // A value of an interface type; the record carries the interface's identifier.
   template <class I> static TValue FromInterface(const TRef<I>& AIntf, PTypeInfo ATypeInfo) {
@@ -88,7 +106,8 @@ public:
     }
     TValue cast;
     if (!TryCast(TypeInfo<T>(), cast)) return false;
-    AResult = *static_cast<const T*>(cast.GetReferenceToRawData());
+    if constexpr (TIsInterfaceRef<T>::value) AResult = QueryAs<typename T::element_type>(cast.AsInterface());
+    else AResult = *static_cast<const T*>(cast.GetReferenceToRawData());
     return true;
   }
 

@@ -206,9 +206,14 @@ TEST(ArrayListTest, UntypedAccessThroughValues) {
     values.push_back(walk->GenericGetCurrent().AsInteger());
   EXPECT_EQ(values, (V{1, 2}));
 
-  // Interfaces have no value form.
-  const TRef<IList> interfaces = New<TArrayList<TRef<IInterface>>>();
-  EXPECT_THROW(interfaces->GetNewValue(), EInvalidCast);
+  // Interface elements travel as interface values.
+  const TRef<TArrayList<TRef<IInterface>>> interfaces = New<TArrayList<TRef<IInterface>>>();
+  const TValue nilInterface = TRef<IList>(interfaces)->GetNewValue();
+  EXPECT_EQ(nilInterface.GetTypeKind(), tkInterface);
+  EXPECT_FALSE(nilInterface.AsInterface());
+  TRef<IList>(interfaces)->AddValue(TValue::From(TRef<IInterface>(list)));
+  ASSERT_EQ(interfaces->GetCount(), 1);
+  EXPECT_TRUE(interfaces->GetItem(0) == list);
 }
 
 } // namespace

@@ -227,7 +227,16 @@ TEST(ValueTest, RawDataOfSets) {
   EXPECT_EQ(rebuilt.ToString(), "[tfApple,tfBanana,tfCherry]");
 }
 
-class TCountedThing : public TInterfacedObject {};
+class INamedThing : public virtual IInterface {
+  TARVO_INTERFACE(INamedThing, IInterface, "{5D0E8C61-93A7-4C5E-8F11-0A6B2C3D4E5F}")
+public:
+  virtual String Name() = 0;
+};
+
+class TCountedThing : public TImplements<TInterfacedObject, INamedThing> {
+public:
+  String Name() override { return "thing"; }
+};
 
 TEST(ValueTest, CopiesShareTheirDataAndReleaseIt) {
   const String longText(100, 'z');
@@ -239,11 +248,13 @@ TEST(ValueTest, CopiesShareTheirDataAndReleaseIt) {
 
   TRef<TCountedThing> thing = New<TCountedThing>();
   {
-    static const TTypeInfo interfaceRecord = TypeRecordOfKind<TRef<IInterface>>("IInterface", tkInterface);
-    const TValue held = TValue::FromInterface(TRef<IInterface>(thing), &interfaceRecord);
+    const TValue held = TValue::From(TRef<INamedThing>(thing));
     EXPECT_EQ(thing->RefCount(), 2);
     EXPECT_TRUE(held.IsInterface());
+    EXPECT_EQ(held.GetTypeInfo()->Guid, INamedThing::IID);
+    EXPECT_EQ(held.GetTypeInfo()->IntfParent, TypeInfo<TRef<IInterface>>());
     EXPECT_TRUE(held.AsInterface() == thing);
+    EXPECT_EQ(held.AsType<TRef<INamedThing>>()->Name(), "thing");
     const TValue copyValue = held;
     EXPECT_EQ(thing->RefCount(), 2);
   }
