@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "containers/List.h"
 #include "containers/Query.h"
 
 namespace Tarvo {
@@ -54,6 +55,11 @@ public:
   virtual Boolean TryGetValue(const K& AKey, V& AValue) = 0;
   virtual V GetOrAdd(const K& AKey, TFunc<V> ACreate) = 0;
   virtual TSelf ForKey(const K& AKey, TConstProc<V> AProc) = 0;
+  // Each call makes a new list; the forms with a procedure hand it over.
+  virtual TRef<IArrayList<K>> Keys() = 0;
+  virtual TSelf Keys(TConstProc<TRef<IArrayList<K>>> AProc) = 0;
+  virtual TRef<IArrayList<V>> Values() = 0;
+  virtual TSelf Values(TConstProc<TRef<IArrayList<V>>> AProc) = 0;
   virtual TPairQuery Query() = 0;
   virtual Integer GetCount() = 0;
   // The key must be there.
@@ -164,6 +170,19 @@ public:
     return Self();
   }
 
+  TRef<IArrayList<K>> Keys() override { return ListOf(&TPair<K, V>::Key); }
+  TSelf Keys(TConstProc<TRef<IArrayList<K>>> AProc) override {
+    TARVO_ASSERT(AProc != nullptr);
+    AProc(Keys());
+    return Self();
+  }
+  TRef<IArrayList<V>> Values() override { return ListOf(&TPair<K, V>::Value); }
+  TSelf Values(TConstProc<TRef<IArrayList<V>>> AProc) override {
+    TARVO_ASSERT(AProc != nullptr);
+    AProc(Values());
+    return Self();
+  }
+
   // Filter, Skip and Take give new dictionaries.
   typename TIntf::TPairQuery Query() override {
     const TSelf self = Self();
@@ -221,6 +240,12 @@ private:
   };
 
   TSelf Self() { return TSelf(this); }
+
+  template <class E> TRef<IArrayList<E>> ListOf(E TPair<K, V>::*AField) {
+    const TRef<IArrayList<E>> result = New<TArrayList<E>>();
+    Query()->ForEach([&](const TPair<K, V>& APair) { result->Add(APair.*AField); });
+    return result;
+  }
 
   void Erase(const K& AKey) {
     if (FDictionary.erase(AKey) != 0) ++FVersion;

@@ -34,19 +34,14 @@ TEST(DictionaryTest, AddReplacesAndIsFluent) {
   EXPECT_EQ(ages->GetItem("bob"), 41);
   EXPECT_EQ(ages->GetCount(), 2);
   EXPECT_THROW(ages->GetItem("cid"), EListError);
-}
 
-TEST(DictionaryTest, LookupsGiveTheDefaultOnAMiss) {
-  const auto ages = Ages({{"ann", 30}});
   Integer age = 99;
   EXPECT_TRUE(ages->TryGetValue("ann", age));
-  EXPECT_EQ(age, 30);
-  EXPECT_FALSE(ages->TryGetValue("bob", age));
+  EXPECT_EQ(age, 31);
+  EXPECT_FALSE(ages->TryGetValue("cid", age));
   EXPECT_EQ(age, 0);
-  EXPECT_TRUE(ages->ContainsKey("ann"));
-  EXPECT_FALSE(ages->ContainsKey("bob"));
-  EXPECT_TRUE(ages->ContainsValue(30));
-  EXPECT_FALSE(ages->ContainsValue(31));
+  EXPECT_TRUE(ages->ContainsValue(41));
+  EXPECT_FALSE(ages->ContainsValue(40));
 }
 
 TEST(DictionaryTest, GetOrAddCreatesOnlyWhenMissing) {
@@ -149,12 +144,18 @@ TEST(DictionaryTest, InterfacesWithoutIdentityAreNotFoundByAQuery) {
   EXPECT_TRUE(Supports<IChangeNotification>(ages));
 }
 
-TEST(DictionaryTest, InterfaceKeysGoByIdentity) {
-  const TRef<IDictionary<TRef<IInterface>, Integer>> owners = New<TDictionary<TRef<IInterface>, Integer>>();
-  const TRef<IInterface> first = Ages({}), second = Ages({});
-  owners->Add(first, 1)->Add(second, 2)->Add(first, 3);
-  EXPECT_EQ(owners->GetCount(), 2);
-  EXPECT_EQ(owners->GetItem(first), 3);
+TEST(DictionaryTest, KeysAndValuesAreNewListsInTheSameOrder) {
+  const auto ages = Ages({{"ann", 30}, {"bob", 40}, {"cid", 50}});
+  const auto keys = ages->Keys();
+  const auto values = ages->Values();
+  ASSERT_EQ(keys->GetCount(), 3);
+  ASSERT_EQ(values->GetCount(), 3);
+  for (Integer i = 0; i < 3; ++i) EXPECT_EQ(ages->GetItem(keys->GetItem(i)), values->GetItem(i));
+  EXPECT_NE(ages->Keys(), keys);
+  TRef<IArrayList<String>> handed;
+  EXPECT_EQ(ages->Remove("bob")->Keys([&](const TRef<IArrayList<String>>& AList) { handed = AList; }), ages);
+  EXPECT_EQ(handed->GetCount(), 2);
+  EXPECT_EQ(keys->GetCount(), 3);
 }
 
 TEST(DictionaryTest, NilArgumentsAreAssertionFailures) {
@@ -163,6 +164,8 @@ TEST(DictionaryTest, NilArgumentsAreAssertionFailures) {
   EXPECT_THROW(ages->RemoveAll(nullptr), EAssertionFailed);
   EXPECT_THROW(ages->GetOrAdd("bob", nullptr), EAssertionFailed);
   EXPECT_THROW(ages->ForKey("bob", nullptr), EAssertionFailed);
+  EXPECT_THROW(ages->Keys(nullptr), EAssertionFailed);
+  EXPECT_THROW(ages->Values(nullptr), EAssertionFailed);
 }
 
 } // namespace
