@@ -41,6 +41,8 @@ void TInterfacedChangeNotifyObject::RemoveDestructionHandler(const TNotifyHandle
   RemoveHandler(FDestructionHandlers, AHandler);
 }
 
+void RaiseNoDefaultOrder() { throw EListError("The element type has no default order; pass a comparison"); }
+
 void TInterfacedChangeNotifyObject::ChangeNotify() { CallHandlers(FChangeHandlers); }
 
 void TInterfacedChangeNotifyObject::BeforeDestruction() {

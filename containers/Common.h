@@ -45,9 +45,16 @@ public:
   virtual int Compare(const T& ALeft, const T& ARight) = 0;
 };
 
+// Element types with a default order: numbers, strings, pointers, interfaces, values and
+// whatever has an operator<.
+template <class T>
+concept CDefaultOrdered = std::is_same_v<T, TValue> || std::is_pointer_v<T> ||
+                          requires(const T& A) { InterfaceIdentity(A.get()); } ||
+                          requires(const T& A, const T& B) { A < B; };
+
 // Ordinal order for numbers and strings, identity for objects, interfaces and class references,
 // and the text for values.
-template <class T> int DefaultCompare(const T& ALeft, const T& ARight) {
+template <CDefaultOrdered T> int DefaultCompare(const T& ALeft, const T& ARight) {
   if constexpr (std::is_same_v<T, TValue>) return DefaultCompare(ALeft.ToString(), ARight.ToString());
   else if constexpr (requires { InterfaceIdentity(ALeft.get()); }) {
     const auto* l = InterfaceIdentity(ALeft.get());
@@ -70,9 +77,15 @@ private:
   TComparison<T> FComparison;
 };
 
-// The default comparer of T, made once.
+[[noreturn]] void RaiseNoDefaultOrder();
+
+// The default comparer of T, made once. Plain records have no order: comparing them raises,
+// while the operations that take their own predicate work as usual.
 template <class T> TRef<IComparer<T>> DefaultComparer() {
-  static const TRef<IComparer<T>> comparer = New<TDelegatedComparer<T>>(&DefaultCompare<T>);
+  static const TRef<IComparer<T>> comparer = [] {
+    if constexpr (CDefaultOrdered<T>) return TRef<IComparer<T>>(New<TDelegatedComparer<T>>(&DefaultCompare<T>));
+    else return TRef<IComparer<T>>(New<TDelegatedComparer<T>>([](const T&, const T&) -> int { RaiseNoDefaultOrder(); }));
+  }();
   return comparer;
 }
 

@@ -67,17 +67,12 @@ public:
   virtual void SetItem(const K& AKey, const V& AValue) = 0;
 };
 
-template <class K, class V> class TDictionary : public TInterfacedChangeNotifyObject, public virtual IDictionary<K, V> {
+template <class K, class V>
+class TDictionary : public TImplements<TInterfacedChangeNotifyObject, IDictionary<K, V>> {
   using TIntf = IDictionary<K, V>;
   using TSelf = typename TIntf::TSelf;
 
 public:
-  // The empty GUID of IDictionary would otherwise answer a query for the empty GUID, and for a
-  // dictionary of any other key and value types.
-  HRESULT QueryInterface(const TGUID& AIID, void** AObj) override {
-    if (!AIID.IsEmpty() && QueryInterfaces<TIntf>(this, AIID, AObj)) return S_OK;
-    return TInterfacedChangeNotifyObject::QueryInterface(AIID, AObj);
-  }
 
   TRef<IEnumerator<TPair<K, V>>> GetEnumerator() override { return New<TPairEnumerator>(TRef<TDictionary>(this)); }
 

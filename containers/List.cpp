@@ -12,8 +12,6 @@ void RaiseListRangeError(Integer AIndex, Integer ACount) {
   throw EListError("List range out of bounds (index " + std::to_string(AIndex) + ", count " + std::to_string(ACount) + ")");
 }
 
-void RaiseNoDefaultOrder() { throw EListError("The element type has no default order; pass a comparison"); }
-
 template class TArrayList<TObject*>;
 template class TArrayList<String>;
 template class TLinkedList<TInterfacedChangeNotifyItem>;

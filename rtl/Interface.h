@@ -127,8 +127,9 @@ template <class I, class J> TRef<I> QueryAs(const TRef<J>& AInstance) {
 }
 
 namespace Detail {
+// An interface with the empty GUID has no identity that a query could ask for; it is skipped.
 template <class I, class TSelf> bool QueryChain(TSelf* ASelf, const TGUID& AIID, void** AObj) {
-  if (AIID == I::IID) {
+  if (!I::IID.IsEmpty() && AIID == I::IID) {
     *AObj = static_cast<I*>(ASelf);
     return true;
   }

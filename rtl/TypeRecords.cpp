@@ -8,17 +8,6 @@ namespace Tarvo {
 
 namespace {
 constexpr std::string_view BooleanNames[] = {"False", "True"};
-
-constexpr TTypeInfo CharTypeRecord(const char* AName, TTypeKind AKind, const TTypeOps* AOps, TOrdType AOrdType,
-                                   Integer AMax) {
-  TTypeInfo r;
-  r.Kind = AKind;
-  r.Name = AName;
-  r.Ops = AOps;
-  r.OrdType = AOrdType;
-  r.MaxValue = AMax;
-  return r;
-}
 } // namespace
 
 constinit const TTypeInfo TypeInfo_Integer = OrdinalTypeRecord<Integer>("Integer");
@@ -31,8 +20,9 @@ constinit const TTypeInfo TypeInfo_Int64 = OrdinalTypeRecord<Int64>("Int64");
 constinit const TTypeInfo TypeInfo_UInt64 = OrdinalTypeRecord<UInt64>("UInt64", 0, -1);
 constinit const TTypeInfo TypeInfo_NativeInt = OrdinalTypeRecord<NativeInt>("NativeInt");
 constinit const TTypeInfo TypeInfo_Boolean = EnumTypeRecord<Boolean>("Boolean", BooleanNames);
-constinit const TTypeInfo TypeInfo_AnsiChar = CharTypeRecord("AnsiChar", tkChar, &TypeOpsOf<AnsiChar>, otUByte, 255);
-constinit const TTypeInfo TypeInfo_WideChar = CharTypeRecord("WideChar", tkWChar, &TypeOpsOf<WideChar>, otUWord, 65535);
+// Characters are unsigned, whatever the signedness of char.
+constinit const TTypeInfo TypeInfo_AnsiChar = OrdinalTypeRecord<std::uint8_t>("AnsiChar", 0, 255, tkChar);
+constinit const TTypeInfo TypeInfo_WideChar = OrdinalTypeRecord<WideChar>("WideChar", 0, 65535, tkWChar);
 constinit const TTypeInfo TypeInfo_Single = FloatTypeRecord<Single>("Single", ftSingle);
 constinit const TTypeInfo TypeInfo_Double = FloatTypeRecord<Double>("Double", ftDouble);
 constinit const TTypeInfo TypeInfo_Real = FloatTypeRecord<Real>("Real", ftDouble);

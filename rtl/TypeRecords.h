@@ -101,15 +101,21 @@ template <class T> constexpr TOrdType OrdTypeOf() {
   else return s ? otSQWord : otUQWord;
 }
 
+// A record of the given kind over the representation T; the other builders start from it.
+template <class T> constexpr TTypeInfo TypeRecordOfKind(const char* AName, TTypeKind AKind) {
+  TTypeInfo r;
+  r.Kind = AKind;
+  r.Name = AName;
+  r.Ops = &TypeOpsOf<T>;
+  return r;
+}
+
 // An integer type (or a sub-range of one) with the representation T.
 template <class T>
 constexpr TTypeInfo OrdinalTypeRecord(const char* AName, Int64 AMin = std::numeric_limits<T>::min(),
                                       Int64 AMax = static_cast<Int64>(std::numeric_limits<T>::max()),
                                       TTypeKind AKind = sizeof(T) == 8 ? tkInt64 : tkInteger) {
-  TTypeInfo r;
-  r.Kind = AKind;
-  r.Name = AName;
-  r.Ops = &TypeOpsOf<T>;
+  TTypeInfo r = TypeRecordOfKind<T>(AName, AKind);
   r.OrdType = OrdTypeOf<T>();
   if (AKind == tkInt64) {
     r.MinInt64Value = AMin;
@@ -124,28 +130,18 @@ constexpr TTypeInfo OrdinalTypeRecord(const char* AName, Int64 AMin = std::numer
 }
 
 template <class T> constexpr TTypeInfo FloatTypeRecord(const char* AName, TFloatType AFloatType) {
-  TTypeInfo r;
-  r.Kind = tkFloat;
-  r.Name = AName;
-  r.Ops = &TypeOpsOf<T>;
+  TTypeInfo r = TypeRecordOfKind<T>(AName, tkFloat);
   r.FloatType = AFloatType;
   return r;
 }
 
 constexpr TTypeInfo StringTypeRecord(const char* AName, TTypeKind AKind) {
-  TTypeInfo r;
-  r.Kind = AKind;
-  r.Name = AName;
-  r.Ops = &TypeOpsOf<String>;
-  return r;
+  return TypeRecordOfKind<String>(AName, AKind);
 }
 
 template <class E>
 constexpr TTypeInfo EnumTypeRecord(const char* AName, std::span<const std::string_view> ANames) {
-  TTypeInfo r;
-  r.Kind = tkEnumeration;
-  r.Name = AName;
-  r.Ops = &TypeOpsOf<E>;
+  TTypeInfo r = TypeRecordOfKind<E>(AName, tkEnumeration);
   if constexpr (std::is_enum_v<E>) r.OrdType = OrdTypeOf<std::underlying_type_t<E>>();
   else r.OrdType = OrdTypeOf<E>();
   r.MinValue = 0;
@@ -155,20 +151,9 @@ constexpr TTypeInfo EnumTypeRecord(const char* AName, std::span<const std::strin
 }
 
 template <class S> constexpr TTypeInfo SetTypeRecord(const char* AName, PTypeInfo AElementType) {
-  TTypeInfo r;
-  r.Kind = tkSet;
-  r.Name = AName;
-  r.Ops = &TypeOpsOf<S>;
+  TTypeInfo r = TypeRecordOfKind<S>(AName, tkSet);
   r.OrdType = sizeof(S) == 1 ? otUByte : sizeof(S) == 2 ? otUWord : otULong;
   r.CompType = AElementType;
-  return r;
-}
-
-template <class T> constexpr TTypeInfo TypeRecordOfKind(const char* AName, TTypeKind AKind) {
-  TTypeInfo r;
-  r.Kind = AKind;
-  r.Name = AName;
-  r.Ops = &TypeOpsOf<T>;
   return r;
 }
 

@@ -1,0 +1,337 @@
+#pragma once
+// TLinkedList<T>: a singly linked list behind ILinkedList<T>, with deletion deferred while it is
+// being walked.
+
+#include "containers/ChangeDelegation.h"
+#include "containers/ListInterfaces.h"
+
+namespace Tarvo {
+
+// Singly linked. While an enumerator lives no node is freed: a removed node is only flagged and
+// stays linked, and the last enumerator to go unlinks the flagged nodes. The count does not fall
+// for a node removed that way. Operations other than the walk see flagged nodes like any other,
+// so PopFirst during a walk finds the same first node again.
+template <class T>
+class TLinkedList final : public TImplements<TTypedInterfacedChangeNotifyObject<T>, IList, ILinkedList<T>> {
+  struct TNode;
+  // The link comes first in a node, so a node doubles as the link to its successor and a walk
+  // can start from the address of FFirst like from any other link.
+  struct TLink {
+    TNode* Next = nullptr;
+  };
+  struct TNode : TLink {
+    T Item;
+    Boolean Deleted = false;
+  };
+
+public:
+  using TSelf = TRef<ILinkedList<T>>;
+  using TPredicate = TConstFunc<T, Boolean>;
+
+  TLinkedList() : FComparer(DefaultComparer<T>()) {}
+  ~TLinkedList() override {
+    while (TNode* node = FFirst) {
+      FFirst = node->Next;
+      delete node;
+    }
+  }
+
+  static TSelf CreateEnumerator(const TRef<IEnumerator<T>>& AEnumerator) {
+    TARVO_ASSERT(AEnumerator != nullptr);
+    const TRef<TLinkedList> result = New<TLinkedList>();
+    while (AEnumerator->MoveNext()) result->Add(AEnumerator->GenericGetCurrent());
+    return result;
+  }
+  static TSelf CreateCopy(const TRef<ILinkedList<T>>& AOther) {
+    TARVO_ASSERT(AOther != nullptr);
+    return CreateEnumerator(AOther->GetEnumerator());
+  }
+
+  TRef<IEnumerator<T>> GetEnumerator() override { return New<TEnumerator>(this); }
+
+  // The query holds the list, so a query keeps its source alive.
+  TRef<IContainerQuery<TSelf, TSelf, T>> Query() override {
+    const TSelf self(this);
+    return New<TContainerQuery<TSelf, TSelf, T>>(
+        [self] { return self->GetEnumerator(); }, [] { return TSelf(New<TLinkedList>()); },
+        [](TSelf AList, T AItem) { AList->Add(AItem); }, self, FComparer);
+  }
+
+  // IList
+  TRef<IEnumerator<TValue>> GetValueEnumerator() override { return New<TGenricValueEnumerator<T>>(GetEnumerator()); }
+  void ClearValues() override { Clear(); }
+  TValue GetNewValue() override { return ElementToValue<T>(T{}); }
+  void AddValue(const TValue& AValue) override { Add(ElementFromValue<T>(AValue)); }
+
+  Integer GetCount() override { return FCount; }
+
+  T Last() override { return FLast ? FLast->Item : T{}; }
+  Boolean Last(T& AItem) override {
+    AItem = Last();
+    return FLast != nullptr;
+  }
+  TSelf ForLast(const TConstProc<T>& AProc) override {
+    TARVO_ASSERT(AProc != nullptr);
+    if (FLast) AProc(FLast->Item);
+    return this;
+  }
+
+  T PopFirst() override {
+    T item{};
+    IfPopFirst(item);
+    return item;
+  }
+  TSelf PopFirst(T& AItem) override {
+    IfPopFirst(AItem);
+    return this;
+  }
+  TSelf PopFirst(const TConstProc<T>& AProc) override {
+    IfPopFirst(AProc);
+    return this;
+  }
+  Boolean IfPopFirst(T& AItem) override {
+    if (!FFirst) {
+      AItem = T{};
+      return false;
+    }
+    AItem = FFirst->Item;
+    RemoveNode(nullptr, FFirst);
+    return true;
+  }
+  Boolean IfPopFirst(const TConstProc<T>& AProc) override {
+    TARVO_ASSERT(AProc != nullptr);
+    T item{};
+    if (!IfPopFirst(item)) return false;
+    AProc(item);
+    return true;
+  }
+
+  TSelf Add(const T& AItem) override {
+    TNode* node = new TNode{{nullptr}, AItem, false};
+    (FLast ? FLast->Next : FFirst) = node;
+    FLast = node;
+    return Entered(node);
+  }
+  TSelf AddFront(const T& AItem) override {
+    TNode* node = new TNode{{FFirst}, AItem, false};
+    FFirst = node;
+    if (!FLast) FLast = node;
+    return Entered(node);
+  }
+  // Appending a list to itself does nothing, as assigning does: the walk would never end.
+  TSelf Append(const TRef<IEnumerable<T>>& AOther) override {
+    TARVO_ASSERT(AOther != nullptr);
+    if (this->IsSelf(AOther)) return this;
+    for (const TRef<IEnumerator<T>> walk = AOther->GetEnumerator(); walk->MoveNext();) Add(walk->GenericGetCurrent());
+    return this;
+  }
+  TSelf Append(const std::vector<T>& AItems) override {
+    for (const T& item : AItems) Add(item);
+    return this;
+  }
+
+  T FindOrAdd(const TPredicate& ACompareFunc, const TFunc<T>& ACreate) override {
+    TARVO_ASSERT(ACreate != nullptr);
+    TNode* previous = nullptr;
+    if (const TNode* node = FindNode(ACompareFunc, previous)) return node->Item;
+    const T item = ACreate();
+    Add(item);
+    return item;
+  }
+  T FindOrAdd(const TPredicate& ACompareFunc, const T& AItem) override {
+    return FindOrAdd(ACompareFunc, [&AItem] { return AItem; });
+  }
+
+  TSelf Assign(const TRef<IEnumerable<T>>& AOther) override {
+    TARVO_ASSERT(AOther != nullptr);
+    if (this->IsSelf(AOther)) return this;
+    Clear();
+    return Append(AOther);
+  }
+
+  Boolean FindAndRemoveOne(const T& AItem) override { return IfRemoveOne(EqualTo(AItem)); }
+  Boolean FindAndRemoveOne(const TPredicate& ACompareFunc, T& AItem) override {
+    TNode* previous = nullptr;
+    TNode* node = FindNode(ACompareFunc, previous);
+    if (!node) return false;
+    AItem = node->Item;
+    RemoveNode(previous, node);
+    return true;
+  }
+  TSelf FindAndRemoveOne(const TPredicate& ACompareFunc, const TConstProc<T>& AFoundProc) override {
+    TARVO_ASSERT(AFoundProc != nullptr);
+    T item{};
+    if (FindAndRemoveOne(ACompareFunc, item)) AFoundProc(item);
+    return this;
+  }
+
+  // Removing a node notifies; an absent element notifies all the same.
+  Integer RemoveOne(const T& AItem) override {
+    Integer index = 0;
+    TNode* previous = nullptr;
+    for (TNode* node = FFirst; node; previous = node, node = node->Next, ++index)
+      if (FComparer->Compare(node->Item, AItem) == 0) {
+        RemoveNode(previous, node);
+        return index;
+      }
+    this->ChangeNotify();
+    return -1;
+  }
+  TSelf RemoveOne(const TPredicate& ACompareFunc) override {
+    IfRemoveOne(ACompareFunc);
+    return this;
+  }
+  Boolean IfRemoveOne(const TPredicate& ACompareFunc) override {
+    TNode* previous = nullptr;
+    TNode* node = FindNode(ACompareFunc, previous);
+    if (node) RemoveNode(previous, node);
+    return node != nullptr;
+  }
+
+  TSelf RemoveAll(const T& AItem) override { return RemoveAll(EqualTo(AItem)); }
+  TSelf RemoveAll(const TRef<IEnumerable<T>>& AOther) override {
+    TARVO_ASSERT(AOther != nullptr);
+    for (const TRef<IEnumerator<T>> walk = AOther->GetEnumerator(); walk->MoveNext();) {
+      const T item = walk->GenericGetCurrent();
+      TNode *lastPrevious = nullptr, *last = nullptr;
+      for (TNode *previous = nullptr, *node = FFirst; node; previous = node, node = node->Next)
+        if (FComparer->Compare(node->Item, item) == 0) {
+          lastPrevious = previous;
+          last = node;
+        }
+      if (last) RemoveNode(lastPrevious, last);
+    }
+    return this;
+  }
+  // Front to back: a linked list has no cheap way down.
+  TSelf RemoveAll(const TPredicate& ACompareFunc, const TConstProc<T>& AFoundProc = nullptr) override {
+    TARVO_ASSERT(ACompareFunc != nullptr);
+    TNode* previous = nullptr;
+    for (TNode* node = FFirst; node;) {
+      TNode* const next = node->Next;
+      if (!ACompareFunc(node->Item)) {
+        previous = node;
+      } else {
+        const T item = node->Item;
+        if (!RemoveNode(previous, node)) previous = node;
+        if (AFoundProc) AFoundProc(item);
+      }
+      node = next;
+    }
+    return this;
+  }
+
+  // Clearing a list that holds nodes while a walk is alive would leave the walk on freed nodes;
+  // it is refused.
+  TSelf Clear() override {
+    TARVO_ASSERT(FCountEnumerotors == 0 || !FFirst);
+    while (TNode* node = FFirst) {
+      FFirst = node->Next;
+      delete node;
+    }
+    FLast = nullptr;
+    FCount = 0;
+    this->UndelegateAll();
+    this->ChangeNotify();
+    return this;
+  }
+
+private:
+  // The cursor points at a link: first at FFirst, then at the link inside the current node.
+  class TEnumerator final : public TBasicEnumerator<T> {
+  public:
+    explicit TEnumerator(TLinkedList* AList) : FList(AList) {
+      ++FList->FCountEnumerotors;
+      Reset();
+    }
+    ~TEnumerator() override { FList->ReleaseEnumerator(); }
+
+    void Reset() override { FCursor = &FList->FFirst; }
+
+    // Reads the successor's flag, not the node's own (except at the end): a node whose
+    // successor was removed during the walk is passed over.
+    bool MoveNext() override {
+      for (;;) {
+        TNode* const node = *FCursor;
+        if (!node) return false;
+        FCursor = &node->Next;
+        if (!node->Next) return !node->Deleted;
+        if (!node->Next->Deleted) return true;
+      }
+    }
+
+    T GenericGetCurrent() override {
+      TARVO_ASSERT(FCursor != &FList->FFirst);
+      return static_cast<TNode*>(reinterpret_cast<TLink*>(FCursor))->Item;
+    }
+
+  private:
+    const TRef<TLinkedList> FList; // held: the release step runs on it
+    TNode** FCursor = nullptr;
+  };
+
+  TSelf Entered(TNode* ANode) {
+    ++FCount;
+    this->ChangeNotify();
+    this->DelegateNotify(ANode->Item);
+    return this;
+  }
+
+  // True when the node was freed, false when it was only flagged.
+  bool RemoveNode(TNode* APrevious, TNode* ANode) {
+    this->UndelegateNotify(ANode->Item);
+    const bool freed = FCountEnumerotors == 0;
+    if (freed) {
+      (APrevious ? APrevious->Next : FFirst) = ANode->Next;
+      if (FLast == ANode) FLast = APrevious;
+      delete ANode;
+      --FCount;
+    } else {
+      FHasDeleted = true;
+      ANode->Deleted = true;
+    }
+    this->ChangeNotify();
+    return freed;
+  }
+
+  // The count and FHasDeleted stay as they are.
+  void ReleaseEnumerator() {
+    if (--FCountEnumerotors != 0 || !FHasDeleted) return;
+    bool freed = false;
+    TNode* live = nullptr;
+    for (TNode** link = &FFirst; TNode* node = *link;) {
+      if (!node->Deleted) {
+        live = node;
+        link = &node->Next;
+        continue;
+      }
+      *link = node->Next;
+      if (node == FLast) FLast = live;
+      this->UndelegateNotify(node->Item);
+      delete node;
+      freed = true;
+    }
+    if (freed) this->ChangeNotify();
+  }
+
+  TNode* FindNode(const TPredicate& ACompareFunc, TNode*& APrevious) {
+    TARVO_ASSERT(ACompareFunc != nullptr);
+    APrevious = nullptr;
+    for (TNode* node = FFirst; node; APrevious = node, node = node->Next)
+      if (ACompareFunc(node->Item)) return node;
+    return nullptr;
+  }
+
+  TPredicate EqualTo(const T& AItem) const {
+    return [this, &AItem](const T& AOther) { return FComparer->Compare(AOther, AItem) == 0; };
+  }
+
+  Cardinal FCountEnumerotors = 0;
+  Boolean FHasDeleted = false;
+  TNode* FFirst = nullptr;
+  TNode* FLast = nullptr;
+  Integer FCount = 0;
+  TRef<IComparer<T>> FComparer;
+};
+
+} // namespace Tarvo
