@@ -3,26 +3,23 @@
 
 #include <algorithm>
 
-#include "containers/ChangeDelegation.h"
-#include "containers/ListInterfaces.h"
+#include "containers/ListCommon.h"
 
 namespace Tarvo {
 
 template <class T>
-class TArrayList final : public TImplements<TTypedInterfacedChangeNotifyObject<T>, IList, IArrayList<T>> {
+class TArrayList final : public TListCommon<T, IArrayList<T>, TArrayList<T>> {
+  using TBase = TListCommon<T, IArrayList<T>, TArrayList<T>>;
+
 public:
-  using TSelf = TRef<IArrayList<T>>;
-  using TPredicate = TConstFunc<T, Boolean>;
+  using typename TBase::TPredicate;
+  using typename TBase::TSelf;
+  using TBase::Append;
+  using TBase::CreateEnumerator;
+  using TBase::FindAndRemoveOne;
+  using TBase::RemoveAll;
+  using TBase::RemoveOne;
 
-  TArrayList() : FComparer(DefaultComparer<T>()) {}
-
-  // The copying factories add through Add, so subscriptions are made.
-  static TSelf CreateEnumerator(const TRef<IEnumerator<T>>& AEnumerator) {
-    TARVO_ASSERT(AEnumerator != nullptr);
-    const TRef<TArrayList> result = New<TArrayList>();
-    while (AEnumerator->MoveNext()) result->Add(AEnumerator->GenericGetCurrent());
-    return result;
-  }
   static TSelf CreateCopy(const TRef<IArrayList<T>>& AOther) {
     TARVO_ASSERT(AOther != nullptr);
     const TRef<TArrayList> result = New<TArrayList>();
@@ -47,18 +44,16 @@ public:
     const TSelf self(this);
     return New<TContainerQuery<TSelf, TSelf, T>>(
         [self, AReverse] { return AReverse ? self->GetReverseEnumerator() : self->GetEnumerator(); },
-        [] { return TSelf(New<TArrayList>()); }, [](TSelf AList, T AItem) { AList->Add(AItem); }, self, FComparer);
+        [] { return TSelf(New<TArrayList>()); }, [](TSelf AList, T AItem) { AList->Add(AItem); }, self,
+        this->FComparer);
   }
 
-  // IList
-  TRef<IEnumerator<TValue>> GetValueEnumerator() override { return New<TGenricValueEnumerator<T>>(GetEnumerator()); }
+  // Unlike Clear, notifies and drops every subscription.
   void ClearValues() override {
     FList.clear();
     this->UndelegateAll();
     this->ChangeNotify();
   }
-  TValue GetNewValue() override { return ElementToValue<T>(T{}); }
-  void AddValue(const TValue& AValue) override { Add(ElementFromValue<T>(AValue)); }
 
   Integer GetCount() override { return static_cast<Integer>(FList.size()); }
   T GetItem(Integer AIndex) override {
@@ -85,18 +80,6 @@ public:
     return this;
   }
 
-  T FindOrAdd(const TPredicate& ACompareFunc, const TFunc<T>& ACreate) override {
-    TARVO_ASSERT(ACreate != nullptr);
-    const Integer index = IndexOfMatch(ACompareFunc);
-    if (index >= 0) return FList[index];
-    const T item = ACreate();
-    Add(item);
-    return item;
-  }
-  T FindOrAdd(const TPredicate& ACompareFunc, const T& AItem) override {
-    return FindOrAdd(ACompareFunc, [&AItem] { return AItem; });
-  }
-
   TSelf Add(const T& AItem) override {
     FList.push_back(AItem);
     this->ChangeNotify();
@@ -110,11 +93,10 @@ public:
     return this;
   }
   TSelf AddUnique(const T& AItem) override {
-    if (IndexOfMatch(EqualTo(AItem)) < 0) Add(AItem);
+    if (IndexOfMatch(this->EqualTo(AItem)) < 0) Add(AItem);
     return this;
   }
 
-  Boolean FindAndRemoveOne(const T& AItem) override { return IfRemoveOne(EqualTo(AItem)); }
   Boolean FindAndRemoveOne(const TPredicate& ACompareFunc, T& AItem) override {
     const Integer index = IndexOfMatch(ACompareFunc);
     if (index < 0) return false;
@@ -122,22 +104,11 @@ public:
     Delete(index);
     return true;
   }
-  TSelf FindAndRemoveOne(const TPredicate& ACompareFunc, const TConstProc<T>& AFoundProc) override {
-    TARVO_ASSERT(AFoundProc != nullptr);
-    T item{};
-    if (FindAndRemoveOne(ACompareFunc, item)) AFoundProc(item);
-    return this;
-  }
-
   Integer RemoveOne(const T& AItem) override {
-    const Integer index = IndexOfMatch(EqualTo(AItem));
+    const Integer index = IndexOfMatch(this->EqualTo(AItem));
     if (index >= 0) Delete(index);
     this->ChangeNotify();
     return index;
-  }
-  TSelf RemoveOne(const TPredicate& ACompareFunc) override {
-    IfRemoveOne(ACompareFunc);
-    return this;
   }
   Boolean IfRemoveOne(const TPredicate& ACompareFunc) override {
     const Integer index = IndexOfMatch(ACompareFunc);
@@ -145,13 +116,12 @@ public:
     return index >= 0;
   }
 
-  TSelf RemoveAll(const T& AItem) override { return RemoveAll(EqualTo(AItem)); }
   TSelf RemoveAll(const TRef<IEnumerable<T>>& AOther) override {
     TARVO_ASSERT(AOther != nullptr);
     for (const TRef<IEnumerator<T>> walk = AOther->GetEnumerator(); walk->MoveNext();) {
       const T item = walk->GenericGetCurrent();
       for (Integer i = GetCount() - 1; i >= 0; --i)
-        if (FComparer->Compare(FList[i], item) == 0) {
+        if (this->FComparer->Compare(FList[i], item) == 0) {
           Delete(i);
           break;
         }
@@ -199,28 +169,11 @@ public:
 
   TSelf Sort(const TComparison<T>& ACompareFunc = nullptr) override {
     const TRef<IComparer<T>> comparer =
-        ACompareFunc ? TRef<IComparer<T>>(New<TDelegatedComparer<T>>(ACompareFunc)) : FComparer;
+        ACompareFunc ? TRef<IComparer<T>>(New<TDelegatedComparer<T>>(ACompareFunc)) : this->FComparer;
     IComparer<T>* const compare = comparer.get();
     std::sort(FList.begin(), FList.end(),
               [compare](const T& ALeft, const T& ARight) { return compare->Compare(ALeft, ARight) < 0; });
     return this;
-  }
-
-  TSelf Append(const TRef<IEnumerable<T>>& AOther) override {
-    TARVO_ASSERT(AOther != nullptr);
-    if (this->IsSelf(AOther)) return this;
-    for (const TRef<IEnumerator<T>> walk = AOther->GetEnumerator(); walk->MoveNext();) Add(walk->GenericGetCurrent());
-    return this;
-  }
-  TSelf Append(const std::vector<T>& AItems) override {
-    for (const T& item : AItems) Add(item);
-    return this;
-  }
-  TSelf Assign(const TRef<IEnumerable<T>>& AOther) override {
-    TARVO_ASSERT(AOther != nullptr);
-    if (this->IsSelf(AOther)) return this;
-    Clear();
-    return Append(AOther);
   }
 
   std::vector<T> ToArray() override { return FList; }
@@ -230,8 +183,10 @@ private:
     if (AIndex < 0 || AIndex >= static_cast<Integer>(FList.size())) RaiseListIndexError(AIndex);
   }
 
-  TPredicate EqualTo(const T& AItem) const {
-    return [this, &AItem](const T& AOther) { return FComparer->Compare(AOther, AItem) == 0; };
+  bool FindFirst(const TPredicate& ACompareFunc, T& AItem) override {
+    const Integer index = IndexOfMatch(ACompareFunc);
+    if (index >= 0) AItem = FList[index];
+    return index >= 0;
   }
 
   // The predicate may change the list, so the count is read on every step.
@@ -243,7 +198,6 @@ private:
   }
 
   std::vector<T> FList;
-  TRef<IComparer<T>> FComparer;
 };
 
 } // namespace Tarvo

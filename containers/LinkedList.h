@@ -2,8 +2,7 @@
 // TLinkedList<T>: a singly linked list behind ILinkedList<T>, with deletion deferred while it is
 // being walked.
 
-#include "containers/ChangeDelegation.h"
-#include "containers/ListInterfaces.h"
+#include "containers/ListCommon.h"
 
 namespace Tarvo {
 
@@ -12,7 +11,8 @@ namespace Tarvo {
 // for a node removed that way. Operations other than the walk see flagged nodes like any other,
 // so PopFirst during a walk finds the same first node again.
 template <class T>
-class TLinkedList final : public TImplements<TTypedInterfacedChangeNotifyObject<T>, IList, ILinkedList<T>> {
+class TLinkedList final : public TListCommon<T, ILinkedList<T>, TLinkedList<T>> {
+  using TBase = TListCommon<T, ILinkedList<T>, TLinkedList<T>>;
   struct TNode;
   // The link comes first in a node, so a node doubles as the link to its successor and a walk
   // can start from the address of FFirst like from any other link.
@@ -25,10 +25,14 @@ class TLinkedList final : public TImplements<TTypedInterfacedChangeNotifyObject<
   };
 
 public:
-  using TSelf = TRef<ILinkedList<T>>;
-  using TPredicate = TConstFunc<T, Boolean>;
+  using typename TBase::TPredicate;
+  using typename TBase::TSelf;
+  using TBase::Append;
+  using TBase::CreateEnumerator;
+  using TBase::FindAndRemoveOne;
+  using TBase::RemoveAll;
+  using TBase::RemoveOne;
 
-  TLinkedList() : FComparer(DefaultComparer<T>()) {}
   ~TLinkedList() override {
     while (TNode* node = FFirst) {
       FFirst = node->Next;
@@ -36,12 +40,6 @@ public:
     }
   }
 
-  static TSelf CreateEnumerator(const TRef<IEnumerator<T>>& AEnumerator) {
-    TARVO_ASSERT(AEnumerator != nullptr);
-    const TRef<TLinkedList> result = New<TLinkedList>();
-    while (AEnumerator->MoveNext()) result->Add(AEnumerator->GenericGetCurrent());
-    return result;
-  }
   static TSelf CreateCopy(const TRef<ILinkedList<T>>& AOther) {
     TARVO_ASSERT(AOther != nullptr);
     return CreateEnumerator(AOther->GetEnumerator());
@@ -54,14 +52,10 @@ public:
     const TSelf self(this);
     return New<TContainerQuery<TSelf, TSelf, T>>(
         [self] { return self->GetEnumerator(); }, [] { return TSelf(New<TLinkedList>()); },
-        [](TSelf AList, T AItem) { AList->Add(AItem); }, self, FComparer);
+        [](TSelf AList, T AItem) { AList->Add(AItem); }, self, this->FComparer);
   }
 
-  // IList
-  TRef<IEnumerator<TValue>> GetValueEnumerator() override { return New<TGenricValueEnumerator<T>>(GetEnumerator()); }
   void ClearValues() override { Clear(); }
-  TValue GetNewValue() override { return ElementToValue<T>(T{}); }
-  void AddValue(const TValue& AValue) override { Add(ElementFromValue<T>(AValue)); }
 
   Integer GetCount() override { return FCount; }
 
@@ -118,38 +112,8 @@ public:
     if (!FLast) FLast = node;
     return Entered(node);
   }
-  // Appending a list to itself does nothing, as assigning does: the walk would never end.
-  TSelf Append(const TRef<IEnumerable<T>>& AOther) override {
-    TARVO_ASSERT(AOther != nullptr);
-    if (this->IsSelf(AOther)) return this;
-    for (const TRef<IEnumerator<T>> walk = AOther->GetEnumerator(); walk->MoveNext();) Add(walk->GenericGetCurrent());
-    return this;
-  }
-  TSelf Append(const std::vector<T>& AItems) override {
-    for (const T& item : AItems) Add(item);
-    return this;
-  }
 
-  T FindOrAdd(const TPredicate& ACompareFunc, const TFunc<T>& ACreate) override {
-    TARVO_ASSERT(ACreate != nullptr);
-    TNode* previous = nullptr;
-    if (const TNode* node = FindNode(ACompareFunc, previous)) return node->Item;
-    const T item = ACreate();
-    Add(item);
-    return item;
-  }
-  T FindOrAdd(const TPredicate& ACompareFunc, const T& AItem) override {
-    return FindOrAdd(ACompareFunc, [&AItem] { return AItem; });
-  }
 
-  TSelf Assign(const TRef<IEnumerable<T>>& AOther) override {
-    TARVO_ASSERT(AOther != nullptr);
-    if (this->IsSelf(AOther)) return this;
-    Clear();
-    return Append(AOther);
-  }
-
-  Boolean FindAndRemoveOne(const T& AItem) override { return IfRemoveOne(EqualTo(AItem)); }
   Boolean FindAndRemoveOne(const TPredicate& ACompareFunc, T& AItem) override {
     TNode* previous = nullptr;
     TNode* node = FindNode(ACompareFunc, previous);
@@ -158,28 +122,18 @@ public:
     RemoveNode(previous, node);
     return true;
   }
-  TSelf FindAndRemoveOne(const TPredicate& ACompareFunc, const TConstProc<T>& AFoundProc) override {
-    TARVO_ASSERT(AFoundProc != nullptr);
-    T item{};
-    if (FindAndRemoveOne(ACompareFunc, item)) AFoundProc(item);
-    return this;
-  }
 
   // Removing a node notifies; an absent element notifies all the same.
   Integer RemoveOne(const T& AItem) override {
     Integer index = 0;
     TNode* previous = nullptr;
     for (TNode* node = FFirst; node; previous = node, node = node->Next, ++index)
-      if (FComparer->Compare(node->Item, AItem) == 0) {
+      if (this->FComparer->Compare(node->Item, AItem) == 0) {
         RemoveNode(previous, node);
         return index;
       }
     this->ChangeNotify();
     return -1;
-  }
-  TSelf RemoveOne(const TPredicate& ACompareFunc) override {
-    IfRemoveOne(ACompareFunc);
-    return this;
   }
   Boolean IfRemoveOne(const TPredicate& ACompareFunc) override {
     TNode* previous = nullptr;
@@ -188,14 +142,13 @@ public:
     return node != nullptr;
   }
 
-  TSelf RemoveAll(const T& AItem) override { return RemoveAll(EqualTo(AItem)); }
   TSelf RemoveAll(const TRef<IEnumerable<T>>& AOther) override {
     TARVO_ASSERT(AOther != nullptr);
     for (const TRef<IEnumerator<T>> walk = AOther->GetEnumerator(); walk->MoveNext();) {
       const T item = walk->GenericGetCurrent();
       TNode *lastPrevious = nullptr, *last = nullptr;
       for (TNode *previous = nullptr, *node = FFirst; node; previous = node, node = node->Next)
-        if (FComparer->Compare(node->Item, item) == 0) {
+        if (this->FComparer->Compare(node->Item, item) == 0) {
           lastPrevious = previous;
           last = node;
         }
@@ -322,8 +275,11 @@ private:
     return nullptr;
   }
 
-  TPredicate EqualTo(const T& AItem) const {
-    return [this, &AItem](const T& AOther) { return FComparer->Compare(AOther, AItem) == 0; };
+  bool FindFirst(const TPredicate& ACompareFunc, T& AItem) override {
+    TNode* previous = nullptr;
+    const TNode* node = FindNode(ACompareFunc, previous);
+    if (node) AItem = node->Item;
+    return node != nullptr;
   }
 
   Cardinal FCountEnumerotors = 0;
@@ -331,7 +287,6 @@ private:
   TNode* FFirst = nullptr;
   TNode* FLast = nullptr;
   Integer FCount = 0;
-  TRef<IComparer<T>> FComparer;
 };
 
 } // namespace Tarvo
