@@ -168,11 +168,18 @@ public:
   }
 
   TSelf Sort(const TComparison<T>& ACompareFunc = nullptr) override {
-    const TRef<IComparer<T>> comparer =
-        ACompareFunc ? TRef<IComparer<T>>(New<TDelegatedComparer<T>>(ACompareFunc)) : this->FComparer;
-    IComparer<T>* const compare = comparer.get();
-    std::sort(FList.begin(), FList.end(),
-              [compare](const T& ALeft, const T& ARight) { return compare->Compare(ALeft, ARight) < 0; });
+    if (ACompareFunc) {
+      const TRef<IComparer<T>> comparer = New<TDelegatedComparer<T>>(ACompareFunc);
+      IComparer<T>* const compare = comparer.get();
+      std::sort(FList.begin(), FList.end(),
+                [compare](const T& ALeft, const T& ARight) { return compare->Compare(ALeft, ARight) < 0; });
+    } else if constexpr (CDefaultOrdered<T>) {
+      // The list's comparer is the default one: compare inline rather than through it.
+      std::sort(FList.begin(), FList.end(),
+                [](const T& ALeft, const T& ARight) { return DefaultCompare(ALeft, ARight) < 0; });
+    } else {
+      RaiseNoDefaultOrder();
+    }
     return this;
   }
 

@@ -43,7 +43,9 @@ void TInterfacedChangeNotifyObject::RemoveDestructionHandler(const TNotifyHandle
 
 void RaiseNoDefaultOrder() { throw EListError("The element type has no default order; pass a comparison"); }
 
-void TInterfacedChangeNotifyObject::ChangeNotify() { CallHandlers(FChangeHandlers); }
+void TInterfacedChangeNotifyObject::ChangeNotify() {
+  if (!FChangeHandlers.empty()) CallHandlers(FChangeHandlers);
+}
 
 void TInterfacedChangeNotifyObject::BeforeDestruction() {
   CallHandlers(FDestructionHandlers);
