@@ -1,0 +1,297 @@
+#pragma once
+// How a class publishes its members: a table in the class's own source file.
+//
+//   TARVO_PUBLISH(TShape) {
+//     Published();
+//     Property("Shape", &TShape::GetShape, &TShape::SetShape).Default(stRectangle);
+//     Property("Pen", &TShape::GetPen, &TShape::SetPen);
+//     Property("Caption", &TShape::FCaption, &TShape::SetCaption).Attr<MultiLineAttribute>();
+//     Public();
+//     Method("SetBounds", &TShape::SetBounds, {"ALeft", "ATop", "AWidth", "AHeight"});
+//     Private();
+//     Field("FTag", &TShape::FTag);
+//   }
+//
+// Accessors are member functions or fields; a property without a writer is read-only. The value
+// type is that of the accessor unless a named type's record is given (a TColor is an Integer).
+
+#include <initializer_list>
+#include <utility>
+
+#include "design/reflection/MemberTable.h"
+
+namespace Tarvo {
+
+namespace Detail {
+
+// A TValue read as T, after a cast to the record that T represents here.
+template <class T> T ValueTo(const TValue& AValue, PTypeInfo AType) {
+  if constexpr (std::is_same_v<T, TValue>) return AValue;
+  else if constexpr (TIsInterfaceRef<T>::value) return QueryAs<typename T::element_type>(AValue.Cast(AType).AsInterface());
+  else {
+    const TValue cast = AValue.Cast(AType);
+    return *static_cast<const T*>(cast.GetReferenceToRawData());
+  }
+}
+
+template <class T> TValue ValueFrom(const T& AValue, PTypeInfo AType) {
+  if constexpr (std::is_same_v<T, TValue>) return AValue;
+  else return TValue::From<T>(AValue, AType);
+}
+
+template <class T> PTypeInfo RecordOf(PTypeInfo AGiven) {
+  if constexpr (std::is_same_v<T, TValue>) {
+    TARVO_ASSERT(AGiven != nullptr); // a TValue accessor names its type
+    return AGiven;
+  } else return AGiven ? AGiven : TypeInfo<T>();
+}
+
+// What a reader is: a field, or a member function with no argument.
+template <class M> struct TReader;
+template <class C, class R> struct TReader<R (C::*)() const> {
+  using Value = std::remove_cvref_t<R>;
+  static constexpr bool IsMethod = true;
+  static Value Read(const C* AObject, R (C::*AGetter)() const) { return (AObject->*AGetter)(); }
+};
+template <class C, class T>
+  requires(!std::is_function_v<T>)
+struct TReader<T C::*> {
+  using Value = T;
+  static constexpr bool IsMethod = false;
+  static Value Read(const C* AObject, T C::*AField) { return AObject->*AField; }
+};
+
+// What a writer is: a field, or a member function with one argument.
+template <class M> struct TWriter;
+template <class C, class A> struct TWriter<void (C::*)(A)> {
+  using Value = std::remove_cvref_t<A>;
+  static constexpr bool IsMethod = true;
+  static void Write(C* AObject, void (C::*ASetter)(A), Value AValue) { (AObject->*ASetter)(std::move(AValue)); }
+};
+template <class C, class T>
+  requires(!std::is_function_v<T>)
+struct TWriter<T C::*> {
+  using Value = T;
+  static constexpr bool IsMethod = false;
+  static void Write(C* AObject, T C::*AField, Value AValue) { AObject->*AField = std::move(AValue); }
+};
+
+// A value of any form the tables write for defaults and limits.
+// A value of any form the tables write for defaults and limits: of its own type where it has a
+// record (an enumeration value stays one), else through the implicit builds ("text", 1.5).
+template <class V> TValue AnyValue(const V& AValue) {
+  if constexpr (CHasTypeRecord<V>) return TValue::From<V>(AValue);
+  else return TValue(AValue);
+}
+
+} // namespace Detail
+
+// Chains the details of one member: .Default(0).Stored(false).Attr<HiddenDesignAttribute>().
+template <class C> class TMemberEntryBuilder {
+public:
+  explicit TMemberEntryBuilder(TMemberEntry& AEntry) : FEntry(AEntry) {}
+
+  template <class V> TMemberEntryBuilder& Default(const V& AValue) {
+    FEntry.HasDefault = true;
+    FEntry.Default = Detail::AnyValue(AValue).Cast(FEntry.Type);
+    return *this;
+  }
+  TMemberEntryBuilder& Stored(bool AStored) {
+    FEntry.Stored = [AStored](TObject*) { return AStored; };
+    return *this;
+  }
+  TMemberEntryBuilder& Stored(bool (C::*AStored)() const) {
+    FEntry.Stored = [AStored](TObject* AObject) { return (static_cast<const C*>(AObject)->*AStored)(); };
+    return *this;
+  }
+  template <class V> TMemberEntryBuilder& Limits(const V& AMin, const V& AMax) {
+    FEntry.HasLimits = true;
+    FEntry.MinValue = Detail::AnyValue(AMin);
+    FEntry.MaxValue = Detail::AnyValue(AMax);
+    return *this;
+  }
+  template <class A, class... AArgs> TMemberEntryBuilder& Attr(AArgs&&... AArgsList) {
+    FEntry.Attributes.push_back(std::make_unique<A>(std::forward<AArgs>(AArgsList)...));
+    return *this;
+  }
+
+private:
+  TMemberEntry& FEntry;
+};
+
+template <class C> class TMemberTableBuilder {
+public:
+  TMemberTableBuilder() { FTable->Class = C::ClassInfo(); }
+  std::unique_ptr<TClassMemberTable> Take() { return std::move(FTable); }
+
+protected:
+  // The visibility of the members that follow; published at the start.
+  void Private() { FVisibility = mvPrivate; }
+  void Protected() { FVisibility = mvProtected; }
+  void Public() { FVisibility = mvPublic; }
+  void Published() { FVisibility = mvPublished; }
+
+  // A property over a reader and a writer (each a field or a member function); without a
+  // writer it is read-only.
+  template <class R, class W = std::nullptr_t>
+  TMemberEntryBuilder<C> Property(const String& AName, R AReader, W AWriter = nullptr, PTypeInfo AType = nullptr) {
+    using TRead = Detail::TReader<R>;
+    using T = typename TRead::Value;
+    TMemberEntry& entry = Add(TMemberEntryKind::Property, AName, Detail::RecordOf<T>(AType));
+    const PTypeInfo type = entry.Type;
+    entry.Read = [AReader, type](TObject* AObject) {
+      return Detail::ValueFrom<T>(TRead::Read(static_cast<const C*>(AObject), AReader), type);
+    };
+    entry.HasReadMethod = TRead::IsMethod;
+    if constexpr (!std::is_null_pointer_v<W>) SetWriter<T>(entry, AWriter);
+    return TMemberEntryBuilder<C>(entry);
+  }
+
+  template <class W> TMemberEntryBuilder<C> WriteOnlyProperty(const String& AName, W AWriter, PTypeInfo AType = nullptr) {
+    using T = typename Detail::TWriter<W>::Value;
+    TMemberEntry& entry = Add(TMemberEntryKind::Property, AName, Detail::RecordOf<T>(AType));
+    SetWriter<T>(entry, AWriter);
+    return TMemberEntryBuilder<C>(entry);
+  }
+
+  // A property with one index: T Get(I) const and void Set(I, T).
+  template <class T, class I, class A = std::nullptr_t>
+  TMemberEntryBuilder<C> IndexedProperty(const String& AName, T (C::*AReader)(I) const, A AWriter = nullptr,
+                                         PTypeInfo AType = nullptr) {
+    using TIndex = std::remove_cvref_t<I>;
+    using TItem = std::remove_cvref_t<T>;
+    TMemberEntry& entry = Add(TMemberEntryKind::IndexedProperty, AName, Detail::RecordOf<TItem>(AType));
+    const PTypeInfo type = entry.Type;
+    const PTypeInfo indexType = TypeInfo<TIndex>();
+    entry.IndexTypes = {indexType};
+    entry.ReadIndexed = [AReader, type, indexType](TObject* AObject, const std::vector<TValue>& AIndices) {
+      TARVO_ASSERT(AIndices.size() == 1);
+      return Detail::ValueFrom<TItem>(
+          (static_cast<const C*>(AObject)->*AReader)(Detail::ValueTo<TIndex>(AIndices[0], indexType)), type);
+    };
+    entry.HasReadMethod = true;
+    if constexpr (!std::is_null_pointer_v<A>) {
+      entry.WriteIndexed = [AWriter, type, indexType](TObject* AObject, const std::vector<TValue>& AIndices,
+                                                      const TValue& AValue) {
+        TARVO_ASSERT(AIndices.size() == 1);
+        (static_cast<C*>(AObject)->*AWriter)(Detail::ValueTo<TIndex>(AIndices[0], indexType),
+                                             Detail::ValueTo<TItem>(AValue, type));
+      };
+      entry.HasWriteMethod = true;
+    }
+    return TMemberEntryBuilder<C>(entry);
+  }
+
+  template <class T> TMemberEntryBuilder<C> Field(const String& AName, T C::*AField, PTypeInfo AType = nullptr) {
+    TMemberEntry& entry = Add(TMemberEntryKind::Field, AName, Detail::RecordOf<T>(AType));
+    const PTypeInfo type = entry.Type;
+    entry.Read = [AField, type](TObject* AObject) { return Detail::ValueFrom<T>(static_cast<const C*>(AObject)->*AField, type); };
+    entry.Write = [AField, type](TObject* AObject, const TValue& AValue) {
+      static_cast<C*>(AObject)->*AField = Detail::ValueTo<T>(AValue, type);
+    };
+    return TMemberEntryBuilder<C>(entry);
+  }
+
+  // A method; with the parameter names its parameters are known to the designer.
+  template <class R, class... AArgs>
+  TMemberEntryBuilder<C> Method(const String& AName, R (C::*AMethod)(AArgs...), std::initializer_list<const char*> ANames = {}) {
+    return AddMethod<R, AArgs...>(AName, [AMethod](C* AObject, AArgs... AValues) -> R {
+      return (AObject->*AMethod)(std::forward<AArgs>(AValues)...);
+    }, ANames);
+  }
+  template <class R, class... AArgs>
+  TMemberEntryBuilder<C> Method(const String& AName, R (C::*AMethod)(AArgs...) const,
+                                std::initializer_list<const char*> ANames = {}) {
+    return AddMethod<R, AArgs...>(AName, [AMethod](C* AObject, AArgs... AValues) -> R {
+      return (AObject->*AMethod)(std::forward<AArgs>(AValues)...);
+    }, ANames);
+  }
+
+  // Attributes of the class itself.
+  template <class A, class... AArgs> void ClassAttr(AArgs&&... AArgsList) {
+    RegisterTypeAttribute(C::ClassInfo()->ClassTypeRecord(), new A(std::forward<AArgs>(AArgsList)...));
+  }
+
+  // Instances add members at run time: AMembers lists an instance's own members, AInit (when
+  // given) prepares an instance the designer made.
+  void DynamicMembers(TRef<IMembersInfo> (C::*AMembers)(), void (C::*AInit)() = nullptr) {
+    FTable->DynamicMembers = [AMembers](TObject* AObject) { return (static_cast<C*>(AObject)->*AMembers)(); };
+    if (AInit) FTable->InitInstance = [AInit](TObject* AObject) { (static_cast<C*>(AObject)->*AInit)(); };
+  }
+
+private:
+  TMemberEntry& Add(TMemberEntryKind AKind, const String& AName, PTypeInfo AType) {
+    auto entry = std::make_unique<TMemberEntry>();
+    entry->Kind = AKind;
+    entry->Name = AName;
+    entry->Visibility = FVisibility;
+    entry->Type = AType;
+    FTable->Members.push_back(std::move(entry));
+    return *FTable->Members.back();
+  }
+
+  template <class T, class W> void SetWriter(TMemberEntry& AEntry, W AWriter) {
+    using TWrite = Detail::TWriter<W>;
+    const PTypeInfo type = AEntry.Type;
+    AEntry.Write = [AWriter, type](TObject* AObject, const TValue& AValue) {
+      TWrite::Write(static_cast<C*>(AObject), AWriter, Detail::ValueTo<typename TWrite::Value>(AValue, type));
+    };
+    AEntry.HasWriteMethod = TWrite::IsMethod;
+  }
+
+  template <class R, class... AArgs, class F>
+  TMemberEntryBuilder<C> AddMethod(const String& AName, F ACall, std::initializer_list<const char*> ANames) {
+    using TResult = std::remove_cvref_t<R>;
+    TMemberEntry& entry = Add(TMemberEntryKind::Method, AName, nullptr);
+    if constexpr (!std::is_void_v<R>) entry.Type = TypeInfo<TResult>();
+    const PTypeInfo types[] = {TypeInfo<std::remove_cvref_t<AArgs>>()..., nullptr};
+    entry.HasExtendedInfo = ANames.size() == sizeof...(AArgs) && (ANames.size() > 0 || sizeof...(AArgs) == 0);
+    if (entry.HasExtendedInfo) {
+      std::size_t i = 0;
+      for (const char* name : ANames) entry.Parameters.push_back({name, types[i++]});
+    }
+    entry.Invoke = [ACall, resultType = entry.Type](TObject* AObject, const std::vector<TValue>& AArguments) {
+      TARVO_ASSERT(AArguments.size() == sizeof...(AArgs));
+      return Call<R, AArgs...>(ACall, static_cast<C*>(AObject), AArguments, resultType,
+                               std::index_sequence_for<AArgs...>());
+    };
+    return TMemberEntryBuilder<C>(entry);
+  }
+
+  template <class R, class... AArgs, class F, std::size_t... I>
+  static TValue Call(const F& ACall, C* AObject, const std::vector<TValue>& AArguments, PTypeInfo AResultType,
+                     std::index_sequence<I...>) {
+    if constexpr (std::is_void_v<R>) {
+      ACall(AObject, Detail::ValueTo<std::remove_cvref_t<AArgs>>(AArguments[I], TypeInfo<std::remove_cvref_t<AArgs>>())...);
+      return TValue();
+    } else {
+      return Detail::ValueFrom<std::remove_cvref_t<R>>(
+          ACall(AObject, Detail::ValueTo<std::remove_cvref_t<AArgs>>(AArguments[I], TypeInfo<std::remove_cvref_t<AArgs>>())...),
+          AResultType);
+    }
+  }
+
+  std::unique_ptr<TClassMemberTable> FTable = std::make_unique<TClassMemberTable>();
+  TMemberVisibility FVisibility = mvPublished;
+};
+
+// Runs a class's table once, when its module starts, and keeps the result.
+template <class TTable> struct TMemberTablePublication {
+  TMemberTablePublication() {
+    TTable table;
+    table.Publish();
+    RegisterMemberTable(table.Take());
+  }
+};
+
+} // namespace Tarvo
+
+// Opens the registration table of a class; the body follows as a function body.
+#define TARVO_PUBLISH(AClass)                                                                      \
+  namespace {                                                                                      \
+  struct AClass##_MemberTable : ::Tarvo::TMemberTableBuilder<AClass> {                             \
+    void Publish();                                                                                \
+  };                                                                                               \
+  const ::Tarvo::TMemberTablePublication<AClass##_MemberTable> AClass##_Publication;               \
+  }                                                                                                \
+  void AClass##_MemberTable::Publish()

@@ -1,0 +1,220 @@
+// Type infos: one object per type record, made on first request and kept until the module that
+// declares the type goes away.
+#include <map>
+#include <unordered_map>
+
+#include "design/reflection/RttiMembers.h"
+
+namespace Tarvo {
+
+namespace {
+
+class TRttiTypeInfo : public TImplements<TObjectInfo, ITypeInfo, IOrdinalTypeInfo, IEnumerationTypeInfo, ISetTypeInfo> {
+public:
+  explicit TRttiTypeInfo(PTypeInfo ARecord) : FRecord(ARecord) {}
+
+  // The views answer only for types of their kind.
+  HRESULT QueryInterface(const TGUID& AIID, void** AObj) override {
+    const bool refused = (AIID == IOrdinalTypeInfo::IID && !FRecord->IsOrdinal()) ||
+                         (AIID == IEnumerationTypeInfo::IID && FRecord->Kind != tkEnumeration) ||
+                         (AIID == ISetTypeInfo::IID && FRecord->Kind != tkSet);
+    if (refused) {
+      *AObj = nullptr;
+      return E_NOINTERFACE;
+    }
+    return TImplements::QueryInterface(AIID, AObj);
+  }
+
+  const void* GetRTTIHandle() override { return FRecord; }
+  TModule* GetPackage() override { return FRecord->Module(); }
+  String GetName() override { return FRecord->Name; }
+
+  PTypeInfo GetHandle() override { return FRecord; }
+  TTypeKind GetTypeKind() override { return FRecord->Kind; }
+  bool InheritsFrom(const TRef<ITypeInfo>& AOther, bool) override {
+    if (!AOther) return false;
+    const PTypeInfo other = AOther->GetHandle();
+    if (FRecord->Kind == tkClass && other->Kind == tkClass) return FRecord->ClassType->InheritsFrom(other->ClassType);
+    for (PTypeInfo type = FRecord; type; type = type->Kind == tkInterface ? type->IntfParent : nullptr)
+      if (type == other) return true;
+    return false;
+  }
+  TGUID GetGuid() override { return FRecord->Kind == tkInterface ? FRecord->Guid : TGUID(); }
+
+  Integer GetMinValue() override { return FRecord->MinValue; }
+  Integer GetMaxValue() override { return FRecord->MaxValue; }
+  TRef<IStringArrayList> GetNames() override {
+    const TRef<IStringArrayList> names = New<TStringArrayList>();
+    for (std::string_view name : FRecord->Names) names->Add(String(name));
+    return names;
+  }
+  Integer GetOrdinal(Integer AIndex) override { return FRecord->MinValue + AIndex; }
+  TRef<ITypeInfo> GetElementType() override { return TTypeInfoHelper::TypeInfo(FRecord->CompType); }
+
+protected:
+  std::vector<TCustomAttribute*> GetAttributeList() override { return TypeAttributes(FRecord); }
+
+private:
+  PTypeInfo FRecord;
+};
+
+class TRttiClassTypeInfo : public TImplements<TRttiTypeInfo, IClassTypeInfo, IDynamicTypeInfo> {
+public:
+  explicit TRttiClassTypeInfo(TClass AClass) : TImplements(AClass->ClassTypeRecord()), FClass(AClass) {
+    if (const TClassMemberTable* table = FindMemberTable(AClass))
+      for (const auto& entry : table->Members) FOwnMembers.push_back(CreateMemberInfo(*entry));
+  }
+
+  // Only a class whose instances add members at run time answers IDynamicTypeInfo.
+  HRESULT QueryInterface(const TGUID& AIID, void** AObj) override {
+    if (AIID == IDynamicTypeInfo::IID && !DynamicTable()) {
+      *AObj = nullptr;
+      return E_NOINTERFACE;
+    }
+    return TImplements::QueryInterface(AIID, AObj);
+  }
+
+  TRef<IMembersInfo> GetMembers(TMemberVisibilities AFilter) override {
+    return Collect([AFilter](const TRef<IMemberInfo>& AMember) { return (AFilter & VisibilityBit(AMember->GetVisibility())) != 0; });
+  }
+  TRef<IMembersInfo> GetAllMembers() override { return GetMembers(mvsAll); }
+  TRef<IMembersInfo> GetAllMethods() override {
+    return Collect([](const TRef<IMemberInfo>& AMember) { return Supports<IMethodInfo>(AMember); });
+  }
+  TRef<IMembersInfo> GetFields() override {
+    return Collect([](const TRef<IMemberInfo>& AMember) { return Supports<IFieldInfo>(AMember); });
+  }
+
+  bool FindMember(const String& AName, TRef<IValueMemberInfo>& AMember) override { return Find(AName, AMember); }
+  bool FindSinglePropertyMember(const String& AName, TRef<ISinglePropertyInfo>& AMember) override {
+    return Find(AName, AMember);
+  }
+  TClass GetClass() override { return FClass; }
+
+  void InitInstance(TObject* AInstance) override {
+    for (TClass c = FClass; c; c = c->ClassParent())
+      if (const TClassMemberTable* table = FindMemberTable(c); table && table->InitInstance) {
+        table->InitInstance(AInstance);
+        return;
+      }
+  }
+
+  // The nearest table that says how instances add members.
+  const TClassMemberTable* DynamicTable() const {
+    for (TClass c = FClass; c; c = c->ClassParent())
+      if (const TClassMemberTable* table = FindMemberTable(c); table && (table->DynamicMembers || table->InitInstance))
+        return table;
+    return nullptr;
+  }
+
+protected:
+  // The members an instance adds; none for the class itself.
+  virtual TRef<IMembersInfo> DynamicMembers() { return nullptr; }
+
+private:
+  // Ancestors' members first, then the class's own, then the instance's.
+  TRef<IMembersInfo> Collect(const TConstFunc<TRef<IMemberInfo>, Boolean>& AFilter) {
+    const TRef<IMembersInfo> result = New<TMembersInfo>();
+    AppendStatic(result, AFilter);
+    if (const TRef<IMembersInfo> dynamic = DynamicMembers())
+      for (const TRef<IMemberInfo>& member : dynamic)
+        if (AFilter(member)) result->Add(member);
+    return result;
+  }
+
+  void AppendStatic(const TRef<IMembersInfo>& AResult, const TConstFunc<TRef<IMemberInfo>, Boolean>& AFilter) {
+    if (TClass parent = FClass->ClassParent()) Of(parent)->AppendStatic(AResult, AFilter);
+    for (const TRef<IMemberInfo>& member : FOwnMembers)
+      if (AFilter(member)) AResult->Add(member);
+  }
+
+  // The class's own members hide those of its ancestors; an instance's members come last.
+  template <class I> bool Find(const String& AName, TRef<I>& AMember) {
+    for (TRttiClassTypeInfo* info = this; info; info = info->FClass->ClassParent() ? Of(info->FClass->ClassParent()) : nullptr)
+      for (const TRef<IMemberInfo>& member : info->FOwnMembers)
+        if (member->GetName() == AName && Supports(member, AMember)) return true;
+    if (const TRef<IMembersInfo> dynamic = DynamicMembers())
+      for (const TRef<IMemberInfo>& member : dynamic)
+        if (member->GetName() == AName && Supports(member, AMember)) return true;
+    AMember = nullptr;
+    return false;
+  }
+
+  static TRttiClassTypeInfo* Of(TClass AClass) {
+    return static_cast<TRttiClassTypeInfo*>(ObjectOf(TRttiObjectHelper::ClassTypeInfo(AClass)));
+  }
+
+  TClass FClass;
+  std::vector<TRef<IMemberInfo>> FOwnMembers;
+};
+
+// The type of one object whose members include those it added at run time.
+class TRttiInstanceTypeInfo : public TRttiClassTypeInfo {
+public:
+  TRttiInstanceTypeInfo(TClass AClass, TRef<IMembersInfo> ADynamicMembers)
+      : TRttiClassTypeInfo(AClass), FDynamicMembers(std::move(ADynamicMembers)) {}
+
+protected:
+  TRef<IMembersInfo> DynamicMembers() override { return FDynamicMembers; }
+
+private:
+  TRef<IMembersInfo> FDynamicMembers;
+};
+
+struct TTypeInfoCache {
+  std::unordered_map<PTypeInfo, TRef<ITypeInfo>> Types;
+  std::map<int, TProc<TObject*>> MemberChangeHandlers;
+  int NextKey = 1;
+
+  TTypeInfoCache() {
+    AddModuleUnloadProc([this](TModule* AModule) {
+      std::erase_if(Types, [AModule](const auto& AEntry) { return AEntry.first->Module() == AModule; });
+    });
+  }
+};
+
+TTypeInfoCache& Cache() {
+  static TTypeInfoCache cache;
+  return cache;
+}
+
+} // namespace
+
+TRef<ITypeInfo> TTypeInfoHelper::TypeInfo(PTypeInfo ATypeRecord) {
+  if (!ATypeRecord) return nullptr;
+  TRef<ITypeInfo>& slot = Cache().Types[ATypeRecord];
+  if (!slot) {
+    if (ATypeRecord->Kind == tkClass) slot = New<TRttiClassTypeInfo>(ATypeRecord->ClassType);
+    else slot = New<TRttiTypeInfo>(ATypeRecord);
+  }
+  return slot;
+}
+
+TRef<IClassTypeInfo> TRttiObjectHelper::ClassTypeInfo(TClass AClass) {
+  return AClass ? QueryAs<IClassTypeInfo>(TTypeInfoHelper::TypeInfo(AClass->ClassTypeRecord())) : nullptr;
+}
+
+TRef<IClassTypeInfo> TRttiObjectHelper::TypeInfo(TObject* AObject, bool AIncludeDynamicTypeInfo) {
+  if (!AObject) return nullptr;
+  TRef<IClassTypeInfo> classInfo = ClassTypeInfo(AObject->ClassType());
+  if (!AIncludeDynamicTypeInfo) return classInfo;
+  const auto* info = static_cast<TRttiClassTypeInfo*>(ObjectOf(classInfo));
+  const TClassMemberTable* table = info->DynamicTable();
+  if (!table || !table->DynamicMembers) return classInfo;
+  return New<TRttiInstanceTypeInfo>(AObject->ClassType(), table->DynamicMembers(AObject));
+}
+
+void NotifyTypeInfoMemberValueChanges(TObject* AInstance) {
+  const auto handlers = Cache().MemberChangeHandlers;
+  for (const auto& [key, handler] : handlers) handler(AInstance);
+}
+
+int AddTypeInfoMemberValueChangesHandler(TProc<TObject*> AHandler) {
+  TTypeInfoCache& cache = Cache();
+  cache.MemberChangeHandlers.emplace(cache.NextKey, std::move(AHandler));
+  return cache.NextKey++;
+}
+
+void RemoveTypeInfoMemberValueChangesHandler(int AKey) { Cache().MemberChangeHandlers.erase(AKey); }
+
+} // namespace Tarvo
