@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "design/reflection/TypeInfo.h"
 #include "rtl/Module.h"
 #include "rtl/Object.h"
 
@@ -53,6 +54,29 @@ TEST(ModuleTest, LoadedModuleRegistersAndUnloadSweepsIt) {
   ASSERT_EQ(unloaded.size(), 1u);
   EXPECT_EQ(unloaded[0], module);
   EXPECT_EQ(FindClass("TTestModuleThing"), nullptr);
+}
+
+// Reads the module's class through the reflection: its members, their types and defaults.
+std::string DescribeModuleThing() {
+  const TClass thing = FindClass("TTestModuleThing");
+  if (!thing) return "no class";
+  std::string text;
+  for (const TRef<IMemberInfo>& member : TRttiObjectHelper::ClassTypeInfo(thing)->GetMembers(mvsPublished)) {
+    TRef<IValueMemberInfo> value;
+    Supports(member, value);
+    text += member->GetName() + ":" + member->GetTypeInfo()->GetName() + "=" + value->GetDefault(nullptr).ToString() + " ";
+  }
+  return text;
+}
+
+TEST(ModuleTest, ReflectionForgetsAnUnloadedModule) {
+  UnloadModule(LoadModule(TARVO_TEST_MODULE_PATH));
+  for (int round = 0; round < 2; ++round) {
+    TModule* module = LoadModule(TARVO_TEST_MODULE_PATH);
+    EXPECT_EQ(DescribeModuleThing(), "Value:Integer=1 Mood:TTestModuleMood=tmCalm ") << "round " << round;
+    UnloadModule(module);
+    EXPECT_EQ(DescribeModuleThing(), "no class");
+  }
 }
 
 TEST(ModuleTest, RemovedUnloadProcIsNotRun) {

@@ -1,8 +1,12 @@
-// A module built as its own shared library: one class and one named resource.
+// A module built as its own shared library: a published class, an enumeration of its own and a
+// named resource.
+#include "design/reflection/Publish.h"
 #include "rtl/Module.h"
-#include "rtl/Object.h"
 
 namespace Tarvo {
+
+TARVO_ENUM(TTestModuleMood, tmCalm, tmBusy)
+TARVO_IMPLEMENT_ENUM(TTestModuleMood)
 
 class TTestModuleThing : public TObject {
   TARVO_CLASS(TTestModuleThing, TObject)
@@ -10,9 +14,14 @@ public:
   using TConstructor = TConstructorSignature<int>;
   explicit TTestModuleThing(int AValue) : Value(AValue) {}
   int Value;
+  TTestModuleMood Mood = tmBusy;
 };
 
 TARVO_IMPLEMENT_CLASS(TTestModuleThing)
+TARVO_PUBLISH(TTestModuleThing) {
+  Property("Value", &TTestModuleThing::Value, &TTestModuleThing::Value).Default(1);
+  Property("Mood", &TTestModuleThing::Mood, &TTestModuleThing::Mood);
+}
 
 namespace {
 const char Greeting[] = "hello from the module";
