@@ -73,7 +73,6 @@ class TDictionary : public TImplements<TInterfacedChangeNotifyObject, IDictionar
   using TSelf = typename TIntf::TSelf;
 
 public:
-
   TRef<IEnumerator<TPair<K, V>>> GetEnumerator() override { return New<TPairEnumerator>(TRef<TDictionary>(this)); }
 
   TSelf Add(const K& AKey, const V& AValue) override {
