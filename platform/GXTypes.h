@@ -1,0 +1,101 @@
+#pragma once
+// Geometry and colours of the drawing wrapper. Rectangles and points are in world units (pixels
+// unless the graphics is transformed); colours are 32-bit ARGB, while TColor keeps the classic
+// 0x00BBGGRR form with system colours in the high byte.
+
+#include <QColor>
+#include <QPointF>
+#include <QRectF>
+
+#include "rtl/Types.h"
+
+namespace Tarvo {
+
+struct TIGXPoint {
+  Integer X = 0;
+  Integer Y = 0;
+  friend constexpr bool operator==(const TIGXPoint&, const TIGXPoint&) = default;
+};
+
+struct TIGXPointF {
+  Single X = 0;
+  Single Y = 0;
+  constexpr TIGXPointF() = default;
+  constexpr TIGXPointF(Single AX, Single AY) : X(AX), Y(AY) {}
+  constexpr TIGXPointF(const TIGXPoint& APoint) : X(Single(APoint.X)), Y(Single(APoint.Y)) {}
+  QPointF ToQPointF() const { return QPointF(X, Y); }
+  friend constexpr bool operator==(const TIGXPointF&, const TIGXPointF&) = default;
+};
+
+struct TIGXSize {
+  Single Width = 0;
+  Single Height = 0;
+  friend constexpr bool operator==(const TIGXSize&, const TIGXSize&) = default;
+};
+
+struct TIGXRect {
+  Single X = 0;
+  Single Y = 0;
+  Single Width = 0;
+  Single Height = 0;
+
+  constexpr TIGXRect() = default;
+  constexpr TIGXRect(Single AX, Single AY, Single AWidth, Single AHeight)
+      : X(AX), Y(AY), Width(AWidth), Height(AHeight) {}
+  // Grid cells and samples are laid out in whole pixels.
+  constexpr TIGXRect(Integer AX, Integer AY, Integer AWidth, Integer AHeight)
+      : X(Single(AX)), Y(Single(AY)), Width(Single(AWidth)), Height(Single(AHeight)) {}
+
+  constexpr Single Left() const { return X; }
+  constexpr Single Top() const { return Y; }
+  constexpr Single Right() const { return X + Width; }
+  constexpr Single Bottom() const { return Y + Height; }
+
+  QRectF ToQRectF() const { return QRectF(X, Y, Width, Height); }
+  static TIGXRect FromQRectF(const QRectF& ARect) {
+    return TIGXRect(Single(ARect.x()), Single(ARect.y()), Single(ARect.width()), Single(ARect.height()));
+  }
+  friend constexpr bool operator==(const TIGXRect&, const TIGXRect&) = default;
+};
+
+// 0xAARRGGBB, the layout of QRgb.
+using TAlphaColor = Cardinal;
+// 0x00BBGGRR; a negative value names the system colour of its low byte (0xFF0000nn).
+using TColor = Integer;
+
+inline constexpr TAlphaColor claBlack = 0xFF000000u;
+inline constexpr TAlphaColor claWhite = 0xFFFFFFFFu;
+inline constexpr TAlphaColor claNull = 0x00000000u;
+
+// The classic system colour indices, as they appear in the low byte of a system TColor.
+enum TSystemColorIndex : Byte {
+  COLOR_SCROLLBAR, COLOR_BACKGROUND, COLOR_ACTIVECAPTION, COLOR_INACTIVECAPTION, COLOR_MENU,
+  COLOR_WINDOW, COLOR_WINDOWFRAME, COLOR_MENUTEXT, COLOR_WINDOWTEXT, COLOR_CAPTIONTEXT,
+  COLOR_ACTIVEBORDER, COLOR_INACTIVEBORDER, COLOR_APPWORKSPACE, COLOR_HIGHLIGHT, COLOR_HIGHLIGHTTEXT,
+  COLOR_BTNFACE, COLOR_BTNSHADOW, COLOR_GRAYTEXT, COLOR_BTNTEXT, COLOR_INACTIVECAPTIONTEXT,
+  COLOR_BTNHIGHLIGHT, COLOR_3DDKSHADOW, COLOR_3DLIGHT, COLOR_INFOTEXT, COLOR_INFOBK,
+  COLOR_HOTLIGHT = 26, COLOR_GRADIENTACTIVECAPTION, COLOR_GRADIENTINACTIVECAPTION, COLOR_MENUHILIGHT,
+  COLOR_MENUBAR
+};
+
+inline constexpr TColor SystemColor(TSystemColorIndex AIndex) { return TColor(0xFF000000u | AIndex); }
+
+inline constexpr TColor clWindow = SystemColor(COLOR_WINDOW);
+inline constexpr TColor clWindowText = SystemColor(COLOR_WINDOWTEXT);
+inline constexpr TColor clHighlight = SystemColor(COLOR_HIGHLIGHT);
+inline constexpr TColor clHighlightText = SystemColor(COLOR_HIGHLIGHTTEXT);
+inline constexpr TColor clBtnFace = SystemColor(COLOR_BTNFACE);
+
+// A system colour resolved through the application palette; any other colour as it is.
+// Indices the palette has no counterpart for give black.
+TColor ColorToRGB(TColor AColor);
+// The ARGB form of a TColor (system colours resolved) with the given alpha.
+TAlphaColor MakeColor(TColor AColor, Byte AAlpha = 255);
+
+// Raises EArgumentOutOfRangeException unless 0 <= AValue < ACount: values of the enumerations
+// arrive as plain ordinals from the inspector.
+void CheckEnumValue(Integer AValue, Integer ACount, const char* ATypeName);
+
+inline QColor ToQColor(TAlphaColor AColor) { return QColor::fromRgba(AColor); }
+
+} // namespace Tarvo

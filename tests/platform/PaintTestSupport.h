@@ -1,0 +1,60 @@
+#pragma once
+// Canvases and pixel checks shared by the drawing tests.
+
+#include <QImage>
+
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <string>
+
+#include "platform/GXGraphics.h"
+
+namespace Tarvo::Testing {
+
+inline constexpr TAlphaColor Red = 0xFFFF0000u;
+inline constexpr TAlphaColor Green = 0xFF00FF00u;
+inline constexpr TAlphaColor Blue = 0xFF0000FFu;
+inline constexpr TAlphaColor Yellow = 0xFFFFFF00u;
+
+inline QImage Canvas(int AWidth, int AHeight, TAlphaColor AColor = claWhite) {
+  QImage image(AWidth, AHeight, QImage::Format_ARGB32_Premultiplied);
+  image.fill(ToQColor(AColor));
+  return image;
+}
+
+// Paints onto a fresh canvas through a graphics that is gone (and its painter ended) on return.
+inline QImage Paint(int AWidth, int AHeight, const std::function<void(IGXGraphics&)>& APaint,
+                    TAlphaColor ABackground = claWhite) {
+  QImage image = Canvas(AWidth, AHeight, ABackground);
+  APaint(*New<TIGXGraphics>(image));
+  return image;
+}
+
+// Unpremultiplied, as colours are given.
+inline TAlphaColor Pixel(const QImage& AImage, int AX, int AY) {
+  const QRgb pixel = AImage.pixel(AX, AY);
+  return AImage.format() == QImage::Format_ARGB32_Premultiplied ? qUnpremultiply(pixel) : pixel;
+}
+
+// True when every channel lies within ATolerance of the expected one.
+inline bool Near(TAlphaColor AActual, TAlphaColor AExpected, int ATolerance = 3) {
+  for (int shift = 0; shift < 32; shift += 8)
+    if (std::abs(int(AActual >> shift & 0xFF) - int(AExpected >> shift & 0xFF)) > ATolerance) return false;
+  return true;
+}
+
+inline std::string Hex(TAlphaColor AColor) {
+  char text[16];
+  std::snprintf(text, sizeof text, "%08X", AColor);
+  return text;
+}
+
+// One row of pixels as text: '#' where the pixel is AInk, '.' elsewhere.
+inline std::string Row(const QImage& AImage, int AY, int AFrom, int ACount, TAlphaColor AInk = claBlack) {
+  std::string row;
+  for (int x = AFrom; x < AFrom + ACount; ++x) row += Pixel(AImage, x, AY) == AInk ? '#' : '.';
+  return row;
+}
+
+} // namespace Tarvo::Testing

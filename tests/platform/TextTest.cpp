@@ -1,0 +1,140 @@
+#include <gtest/gtest.h>
+
+#include <QRect>
+
+#include "PaintTestSupport.h"
+
+namespace Tarvo {
+namespace {
+
+using namespace Testing;
+
+const String LongText = "The quick brown fox jumps over the lazy dog";
+
+TRef<IGXFont> Font(TIGXFontStyle AStyle = fsRegular, Single ASize = 10, TIGXFontUnit AUnit = fuPoint) {
+  return New<TIGXFont>("DejaVu Sans", ASize, AStyle, AUnit);
+}
+
+TRef<IGXStringFormat> Format(Cardinal AFlags, TIGXStringTrimming ATrimming = stNone) {
+  const auto format = New<TIGXStringFormat>(AFlags);
+  format->SetTrimming(ATrimming);
+  return format;
+}
+
+// Measures on a scratch image, as a host measures before it paints.
+TIGXRect Measure(const String& AText, const TRef<IGXFont>& AFont, const TIGXSize& ALayout,
+                 const TRef<IGXStringFormat>& AFormat = nullptr) {
+  QImage scratch = Canvas(1, 1);
+  return New<TIGXGraphics>(scratch)->MeasureString(AText, AFont, ALayout, AFormat);
+}
+
+// The box of every pixel that is no longer white; empty when nothing was painted.
+QRect Ink(const QImage& AImage) {
+  QRect ink;
+  for (int y = 0; y < AImage.height(); ++y)
+    for (int x = 0; x < AImage.width(); ++x)
+      if (Pixel(AImage, x, y) != claWhite) ink |= QRect(x, y, 1, 1);
+  return ink;
+}
+
+TEST(MeasureStringTest, GrowsWithTheText) {
+  const auto font = Font();
+  Single previous = 0;
+  for (const String text : {"W", "WW", "WWWW", "WWWWWWWW"}) {
+    const TIGXRect box = Measure(text, font, TIGXSize{});
+    EXPECT_GT(box.Width, previous) << text;
+    EXPECT_GT(box.Height, 0) << text;
+    previous = box.Width;
+  }
+  EXPECT_GT(Measure("Wide", Font(fsBold), TIGXSize{}).Width, Measure("Wide", font, TIGXSize{}).Width);
+  // 10 points are about 13 pixels at 96 dots per inch.
+  EXPECT_GT(Measure("x", Font(fsRegular, 10, fuPoint), TIGXSize{}).Height,
+            Measure("x", Font(fsRegular, 10, fuPixel), TIGXSize{}).Height);
+}
+
+TEST(MeasureStringTest, WrapsUnlessToldNotTo) {
+  const auto font = Font();
+  const Single line = Measure("x", font, TIGXSize{}).Height;
+  const TIGXRect wrapped = Measure(LongText, font, TIGXSize{80, 0});
+  EXPECT_GT(wrapped.Height, 2 * line);
+  EXPECT_LE(wrapped.Width, 80);
+  const TIGXRect single = Measure(LongText, font, TIGXSize{80, 0}, Format(sfNoWrap));
+  EXPECT_EQ(single.Height, line);
+  // Trimmed to the width with an ellipsis, the line no longer outgrows its box.
+  EXPECT_GT(single.Width, 80);
+  EXPECT_LE(Measure(LongText, font, TIGXSize{80, 0}, Format(sfNoWrap, stEllipsisCharacter)).Width, 80);
+}
+
+TEST(DrawStringTest, EllipsisKeepsTheTextInsideItsRectangle) {
+  const TIGXRect box(10, 5, 80, 20);
+  const auto draw = [&](const TRef<IGXStringFormat>& AFormat) {
+    return Ink(Paint(200, 30, [&](IGXGraphics& AGraphics) {
+      AGraphics.DrawString(LongText, Font(), box, AFormat, New<TIGXSolidBrush>(claBlack));
+    }));
+  };
+  const QRect inside(10, 5, 80, 20);
+  const QRect trimmed = draw(Format(sfNoWrap, stEllipsisCharacter));
+  ASSERT_FALSE(trimmed.isEmpty());
+  EXPECT_TRUE(inside.contains(trimmed)) << trimmed.left() << ".." << trimmed.right();
+  EXPECT_GT(trimmed.right(), 75); // the ellipsis fills the line out to the end
+  // Trimming alone, without the clip, shortens the line to the width.
+  EXPECT_LE(draw(Format(sfNoWrap | sfNoClip, stEllipsisCharacter)).right(), inside.right());
+  // Neither trimmed nor clipped, the same text runs past the rectangle.
+  EXPECT_GT(draw(Format(sfNoWrap | sfNoClip)).right(), 150);
+}
+
+struct TAlignCase {
+  TIGXStringAlignment Alignment;
+  TIGXStringAlignment LineAlignment;
+  int CentreX, CentreY; // of the ink, within a few pixels
+};
+
+class StringAlignmentTest : public testing::TestWithParam<TAlignCase> {};
+
+TEST_P(StringAlignmentTest, PlacesTheTextInItsRectangle) {
+  const TAlignCase c = GetParam();
+  const auto format = New<TIGXStringFormat>();
+  format->SetAlignment(c.Alignment);
+  format->SetLineAlignment(c.LineAlignment);
+  const QRect ink = Ink(Paint(120, 60, [&](IGXGraphics& AGraphics) {
+    AGraphics.DrawString("mmmm", Font(fsRegular, 12, fuPixel), TIGXRect(0, 0, 120, 60), format, New<TIGXSolidBrush>(claBlack));
+  }));
+  ASSERT_FALSE(ink.isEmpty());
+  EXPECT_NEAR(ink.center().x(), c.CentreX, 12);
+  EXPECT_NEAR(ink.center().y(), c.CentreY, 8);
+}
+
+INSTANTIATE_TEST_SUITE_P(Alignments, StringAlignmentTest,
+                         testing::Values(TAlignCase{saNear, saNear, 18, 6}, TAlignCase{saCenter, saCenter, 60, 30},
+                                         TAlignCase{saFar, saFar, 102, 54}, TAlignCase{saFar, saNear, 102, 6}));
+
+TEST(DrawStringTest, AnyBrushFillsTheGlyphs) {
+  const TIGXRect box(0, 0, 160, 30);
+  const auto brush = New<TIGXLinearGradientBrush>(box, Red, Blue, lgmHorizontal);
+  const QImage image = Paint(160, 30, [&](IGXGraphics& AGraphics) {
+    AGraphics.DrawString("IIIIIIIIIIIIIIIIIIII", Font(fsBold, 24, fuPixel), box, nullptr, brush);
+  });
+  const QRect ink = Ink(image);
+  ASSERT_FALSE(ink.isEmpty());
+  // The darkest pixel of the first and of the last column of ink: red at the left, blue at the right.
+  const auto strongest = [&](int AX) {
+    TAlphaColor best = claWhite;
+    for (int y = ink.top(); y <= ink.bottom(); ++y)
+      if (qGray(Pixel(image, AX, y)) < qGray(best)) best = Pixel(image, AX, y);
+    return best;
+  };
+  const TAlphaColor left = strongest(ink.left() + 1), right = strongest(ink.right() - 1);
+  EXPECT_GT(qRed(left), qBlue(left) + 100) << Hex(left);
+  EXPECT_GT(qBlue(right), qRed(right) + 100) << Hex(right);
+  EXPECT_EQ(Pixel(image, ink.left() - 1, ink.center().y()), claWhite); // the background stays
+}
+
+TEST(FontTest, SizeMustBePositive) {
+  EXPECT_THROW(New<TIGXFont>("DejaVu Sans", 0.0f), EArgumentOutOfRangeException);
+  const QFont font = Font(fsBold | fsItalic | fsUnderline, 9, fuPoint)->ToQFont();
+  EXPECT_TRUE(font.bold() && font.italic() && font.underline() && !font.strikeOut());
+  EXPECT_EQ(font.pointSizeF(), 9.0);
+}
+
+} // namespace
+} // namespace Tarvo
