@@ -185,9 +185,9 @@ private:
   TIGXWrapMode FWrapMode = wmTile;
 };
 
-// Colours are shaded across the triangles that the centre point makes with each edge, as the
-// classic brush does, and rendered once per fill at one sample per world unit: a transform that
-// enlarges the graphics enlarges those samples too.
+// Colours are shaded across the triangles that the centre point makes with each edge, and
+// rendered once per fill at one sample per world unit: a transform that enlarges the graphics
+// enlarges those samples too.
 class TIGXPathGradientBrush : public TImplements<TInterfacedObject, IGXPathGradientBrush> {
 public:
   // The centre point starts at the mean of the points, the centre colour black and every

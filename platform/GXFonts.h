@@ -13,7 +13,7 @@ namespace Tarvo {
 enum TIGXFontStyle : Integer { fsRegular = 0, fsBold = 1, fsItalic = 2, fsUnderline = 4, fsStrikeout = 8 };
 constexpr TIGXFontStyle operator|(TIGXFontStyle A, TIGXFontStyle B) { return TIGXFontStyle(Integer(A) | Integer(B)); }
 
-// The classic unit numbers, of which fonts take these two.
+// Units numbered as stored in designs; fonts take these two.
 enum TIGXFontUnit : Integer { fuPixel = 2, fuPoint = 3 };
 
 class IGXFont : public virtual IInterface {
@@ -44,7 +44,7 @@ private:
   TIGXFontUnit FUnit;
 };
 
-// Format flags in their classic values.
+// Format flags with the values stored in designs.
 inline constexpr Cardinal sfNoWrap = 0x1000;
 inline constexpr Cardinal sfNoClip = 0x4000;
 

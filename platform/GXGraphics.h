@@ -1,8 +1,8 @@
 #pragma once
 // The drawing surface of the wrapper: draws shapes, images and text with pens, brushes and
 // fonts onto a QImage or through a painter that a paint event already holds. With smoothing
-// off, coordinates land on pixels as in the classic API: a filled rectangle (x, y, w, h) covers
-// w by h pixels, the outline of the same rectangle with a pen of width 1 covers w + 1 by h + 1.
+// off, whole coordinates land on whole pixels: a filled rectangle (x, y, w, h) covers w by h
+// pixels, the outline of the same rectangle with a pen of width 1 covers w + 1 by h + 1.
 
 #include <QImage>
 #include <QPainter>
@@ -19,9 +19,9 @@
 
 namespace Tarvo {
 
-// Classic numbering; high quality and antialias smooth edges, the rest do not.
+// Numbered as stored in designs; high quality and antialias smooth edges, the rest do not.
 enum TIGXSmoothingMode : Integer { smDefault, smHighSpeed, smHighQuality, smNone, smAntiAlias };
-// Classic numbering; every mode but nearest neighbour filters scaled images.
+// Numbered as stored in designs; every mode but nearest neighbour filters scaled images.
 enum TIGXInterpolationMode : Integer {
   imDefault, imLowQuality, imHighQuality, imBilinear, imBicubic, imNearestNeighbor,
   imHighQualityBilinear, imHighQualityBicubic

@@ -18,11 +18,11 @@ const std::array<std::vector<Single>, dsCustom> DashPatterns = {{
     {3, 1, 1, 1, 1, 1},
 }};
 
-// The classic miter falls back to a bevel past the limit, as SVG's does; the clipped miter cuts
+// A miter falls back to a bevel past the limit, as SVG's does; the clipped miter cuts
 // the point off at the limit, as Qt's own miter does.
 constexpr std::array<Qt::PenJoinStyle, 4> JoinStyles = {Qt::SvgMiterJoin, Qt::BevelJoin, Qt::RoundJoin, Qt::MiterJoin};
 
-constexpr qreal ClassicMiterLimit = 10;
+constexpr qreal DefaultMiterLimit = 10;
 
 } // namespace
 
@@ -59,7 +59,7 @@ QPen TIGXPen::ToQPen() {
   // Flat ends: a square cap would lengthen every dash by the pen's width.
   pen.setCapStyle(Qt::FlatCap);
   pen.setJoinStyle(JoinStyles[FLineJoin]);
-  pen.setMiterLimit(ClassicMiterLimit);
+  pen.setMiterLimit(DefaultMiterLimit);
   const std::vector<Single> pattern = GetDashPattern();
   if (!pattern.empty()) {
     // Qt wants dash-gap pairs; an odd pattern alternates its meaning on each repeat.

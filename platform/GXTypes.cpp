@@ -18,8 +18,8 @@ struct TPaletteEntry {
   QPalette::ColorRole Role;
 };
 
-// The palette colour that plays the part of each classic system colour; index 25 has no meaning.
-constexpr std::array<std::optional<TPaletteEntry>, COLOR_MENUBAR + 1> SystemColorTable = {{
+// The palette colour that plays the part of each system colour; index 25 has no meaning.
+constexpr std::array<std::optional<TPaletteEntry>, scMenuBar + 1> SystemColorTable = {{
     TPaletteEntry{QPalette::Active, QPalette::Button},             // scroll bar
     TPaletteEntry{QPalette::Active, QPalette::Dark},               // desktop background
     TPaletteEntry{QPalette::Active, QPalette::Highlight},          // active caption

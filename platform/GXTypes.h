@@ -1,6 +1,6 @@
 #pragma once
 // Geometry and colours of the drawing wrapper. Rectangles and points are in world units (pixels
-// unless the graphics is transformed); colours are 32-bit ARGB, while TColor keeps the classic
+// unless the graphics is transformed); colours are 32-bit ARGB, while TColor keeps its
 // 0x00BBGGRR form with system colours in the high byte.
 
 #include <QColor>
@@ -67,24 +67,24 @@ inline constexpr TAlphaColor claBlack = 0xFF000000u;
 inline constexpr TAlphaColor claWhite = 0xFFFFFFFFu;
 inline constexpr TAlphaColor claNull = 0x00000000u;
 
-// The classic system colour indices, as they appear in the low byte of a system TColor.
+// The system colour indices, as they appear in the low byte of a system TColor.
 enum TSystemColorIndex : Byte {
-  COLOR_SCROLLBAR, COLOR_BACKGROUND, COLOR_ACTIVECAPTION, COLOR_INACTIVECAPTION, COLOR_MENU,
-  COLOR_WINDOW, COLOR_WINDOWFRAME, COLOR_MENUTEXT, COLOR_WINDOWTEXT, COLOR_CAPTIONTEXT,
-  COLOR_ACTIVEBORDER, COLOR_INACTIVEBORDER, COLOR_APPWORKSPACE, COLOR_HIGHLIGHT, COLOR_HIGHLIGHTTEXT,
-  COLOR_BTNFACE, COLOR_BTNSHADOW, COLOR_GRAYTEXT, COLOR_BTNTEXT, COLOR_INACTIVECAPTIONTEXT,
-  COLOR_BTNHIGHLIGHT, COLOR_3DDKSHADOW, COLOR_3DLIGHT, COLOR_INFOTEXT, COLOR_INFOBK,
-  COLOR_HOTLIGHT = 26, COLOR_GRADIENTACTIVECAPTION, COLOR_GRADIENTINACTIVECAPTION, COLOR_MENUHILIGHT,
-  COLOR_MENUBAR
+  scScrollBar, scBackground, scActiveCaption, scInactiveCaption, scMenu,
+  scWindow, scWindowFrame, scMenuText, scWindowText, scCaptionText,
+  scActiveBorder, scInactiveBorder, scAppWorkspace, scHighlight, scHighlightText,
+  scBtnFace, scBtnShadow, scGrayText, scBtnText, scInactiveCaptionText,
+  scBtnHighlight, sc3DDarkShadow, sc3DLight, scInfoText, scInfoBackground,
+  scHotLight = 26, scGradientActiveCaption, scGradientInactiveCaption, scMenuHighlight,
+  scMenuBar
 };
 
 inline constexpr TColor SystemColor(TSystemColorIndex AIndex) { return TColor(0xFF000000u | AIndex); }
 
-inline constexpr TColor clWindow = SystemColor(COLOR_WINDOW);
-inline constexpr TColor clWindowText = SystemColor(COLOR_WINDOWTEXT);
-inline constexpr TColor clHighlight = SystemColor(COLOR_HIGHLIGHT);
-inline constexpr TColor clHighlightText = SystemColor(COLOR_HIGHLIGHTTEXT);
-inline constexpr TColor clBtnFace = SystemColor(COLOR_BTNFACE);
+inline constexpr TColor clWindow = SystemColor(scWindow);
+inline constexpr TColor clWindowText = SystemColor(scWindowText);
+inline constexpr TColor clHighlight = SystemColor(scHighlight);
+inline constexpr TColor clHighlightText = SystemColor(scHighlightText);
+inline constexpr TColor clBtnFace = SystemColor(scBtnFace);
 
 // A system colour resolved through the application palette; any other colour as it is.
 // Indices the palette has no counterpart for give black.

@@ -40,9 +40,9 @@ TEST_F(SystemColorTest, FollowsThePalette) {
       {clHighlight, 0x322212},
       {clHighlightText, 0x332313},
       {clBtnFace, 0x342414},
-      {SystemColor(COLOR_BTNTEXT), 0x352515},
-      {SystemColor(COLOR_GRAYTEXT), 0x362616},
-      {SystemColor(COLOR_INFOBK), 0x372717},
+      {SystemColor(scBtnText), 0x352515},
+      {SystemColor(scGrayText), 0x362616},
+      {SystemColor(scInfoBackground), 0x372717},
   };
   for (const auto& row : table) EXPECT_EQ(ColorToRGB(row.System), row.Expected) << std::hex << row.System;
   EXPECT_EQ(MakeColor(clHighlight), 0xFF122232u);

@@ -18,7 +18,7 @@ struct TOutlineCase {
 class PenOutlineTest : public testing::TestWithParam<TOutlineCase> {};
 
 // Every pixel of the canvas is black exactly where the outline should be.
-TEST_P(PenOutlineTest, LandsOnTheClassicPixels) {
+TEST_P(PenOutlineTest, LandsOnTheExpectedPixels) {
   const TOutlineCase c = GetParam();
   const QImage image = Paint(14, 14, [&](IGXGraphics& AGraphics) {
     const auto pen = New<TIGXPen>(claBlack, c.Width);
@@ -37,7 +37,7 @@ TEST_P(PenOutlineTest, LandsOnTheClassicPixels) {
 
 INSTANTIATE_TEST_SUITE_P(Outlines, PenOutlineTest,
                          testing::Values(
-                             // Width 1, centred: one pixel more than the width, as the classic API draws.
+                             // Width 1, centred: one pixel more than the rectangle's width.
                              TOutlineCase{TIGXRect(2, 2, 5, 5), 1, paCenter, 2, 7, 1},
                              TOutlineCase{TIGXRect(2, 2, 8, 8), 1, paCenter, 2, 10, 1},
                              TOutlineCase{TIGXRect(2, 2, 8, 8), 2, paCenter, 1, 10, 2},
