@@ -1,4 +1,5 @@
-// The platform tests paint with real Qt objects; without a display they use the offscreen platform.
+// Tests of Qt-backed code paint with real Qt objects; without a display they use the offscreen
+// platform.
 #include <QApplication>
 
 #include <gtest/gtest.h>
