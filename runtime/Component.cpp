@@ -1,0 +1,239 @@
+#include "runtime/Component.h"
+
+#include <algorithm>
+
+#include "containers/List.h"
+#include "design/reflection/Publish.h"
+#include "rtl/SysUtils.h"
+
+namespace Tarvo {
+
+namespace {
+
+// Letters, digits and underscores, not starting with a digit.
+bool IsValidIdent(const String& AText) {
+  const auto isAlpha = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_'; };
+  if (AText.empty() || !isAlpha(AText.front())) return false;
+  return std::all_of(AText.begin(), AText.end(), [&](char c) { return isAlpha(c) || (c >= '0' && c <= '9'); });
+}
+
+// The state that the next TComponent constructor on this thread starts with.
+thread_local TComponentState GPendingState;
+
+class TPendingStateScope {
+public:
+  explicit TPendingStateScope(TComponentState AState) : FSaved(std::exchange(GPendingState, AState)) {}
+  ~TPendingStateScope() { GPendingState = FSaved; }
+  TPendingStateScope(const TPendingStateScope&) = delete;
+  TPendingStateScope& operator=(const TPendingStateScope&) = delete;
+
+private:
+  TComponentState FSaved;
+};
+
+} // namespace
+
+// ---- TPersistent ----
+
+TARVO_IMPLEMENT_CLASS(TPersistent)
+
+void TPersistent::Assign(TPersistent* ASource) {
+  if (ASource) ASource->AssignTo(this);
+  else AssignError(nullptr);
+}
+
+void TPersistent::AssignTo(TPersistent* ADest) { ADest->AssignError(this); }
+
+void TPersistent::AssignError(TPersistent* ASource) {
+  throw EConvertError(Format("Cannot assign a %s to a %s", {ASource ? ASource->ClassName() : "nil", ClassName()}));
+}
+
+// ---- TChangeNotifyPersistent ----
+
+TARVO_IMPLEMENT_CLASS(TChangeNotifyPersistent)
+
+TNotifyHandler TChangeNotifyPersistent::AddChangeHandler(TProc<> AHandler) {
+  TARVO_ASSERT(AHandler != nullptr);
+  return FChangeHandlers.emplace_back(std::make_shared<const TProc<>>(std::move(AHandler)));
+}
+
+void TChangeNotifyPersistent::RemoveChangeHandler(const TNotifyHandler& AHandler) {
+  std::erase(FChangeHandlers, AHandler);
+}
+
+void TChangeNotifyPersistent::EndUpdate() {
+  TARVO_ASSERT(FUpdateCount > 0);
+  if (--FUpdateCount == 0 && std::exchange(FChangedInUpdate, false)) Changed();
+}
+
+void TChangeNotifyPersistent::Changed() {
+  if (FUpdateCount > 0) {
+    FChangedInUpdate = true;
+    return;
+  }
+  // A handler may remove itself or others while the walk runs.
+  const std::vector<TNotifyHandler> handlers = FChangeHandlers;
+  for (const TNotifyHandler& handler : handlers) (*handler)();
+}
+
+// ---- TComponent ----
+
+TARVO_IMPLEMENT_CLASS(TComponent)
+TARVO_IMPLEMENT_ENUM(TOperation)
+TARVO_IMPLEMENT_ENUM(TComponentStateFlag)
+TARVO_IMPLEMENT_SET(TComponentState, TComponentStateFlag)
+
+TARVO_PUBLISH(TComponent) {
+  Property("Name", &TComponent::GetName, &TComponent::SetName, &TypeInfo_TComponentName);
+  Property("Tag", &TComponent::GetTag, &TComponent::SetTag, &TypeInfo_NativeInt).Default(NativeInt(0));
+  Public();
+  Property("Owner", &TComponent::Owner);
+  Property("ComponentCount", &TComponent::ComponentCount);
+  IndexedProperty("Components", &TComponent::Components);
+}
+
+TComponent::TComponent(TComponent* AOwner) : FComponentState(std::exchange(GPendingState, TComponentState())) {
+  if (AOwner) AOwner->InsertComponent(this);
+}
+
+TComponent::~TComponent() { Teardown(); }
+
+void TComponent::BeforeDestruction() {
+  TPersistent::BeforeDestruction();
+  Teardown();
+}
+
+void TComponent::Teardown() {
+  Destroying();
+  while (!FFreeNotifies.empty()) {
+    TComponent* other = FFreeNotifies.back();
+    FFreeNotifies.pop_back();
+    std::erase(other->FFreeNotifies, this);
+    other->Notification(this, opRemove);
+  }
+  DestroyComponents();
+  if (FOwner) FOwner->RemoveComponent(this);
+}
+
+void TComponent::DestroyComponents() {
+  // Last made goes first; each is given up before it goes, so that its siblings hear of it.
+  while (!FComponents.empty()) {
+    TComponent* component = FComponents.back();
+    RemoveComponent(component);
+    Free(component);
+  }
+}
+
+void TComponent::Destroying() {
+  if (FComponentState.Contains(csDestroying)) return;
+  FComponentState.Include(csDestroying);
+  for (TComponent* component : FComponents) component->Destroying();
+}
+
+HRESULT TComponent::QueryInterface(const TGUID& AIID, void** AObj) {
+  if (AIID == ObjCastGUID) {
+    *AObj = static_cast<TObject*>(this);
+    return S_OK;
+  }
+  if (QueryInterfaces<IInterface>(this, AIID, AObj)) return S_OK;
+  *AObj = nullptr;
+  return E_NOINTERFACE;
+}
+
+bool TComponent::GetInterface(const TGUID& AIID, void** AObj) { return QueryInterface(AIID, AObj) == S_OK; }
+
+void TComponent::SetName(const String& ANewName) {
+  if (FName == ANewName) return;
+  if (!ANewName.empty() && !IsValidIdent(ANewName))
+    throw EComponentError(Format("'%s' is not a valid component name", {ANewName}));
+  if (FOwner) FOwner->ValidateRename(this, ANewName);
+  FName = ANewName;
+}
+
+void TComponent::ValidateRename(TComponent* AComponent, const String& ANewName) const {
+  const TComponent* other = FindComponent(ANewName);
+  if (other && other != AComponent) throw EComponentError(Format("A component named %s already exists", {ANewName}));
+}
+
+TComponent* TComponent::Components(Integer AIndex) const {
+  if (AIndex < 0 || AIndex >= ComponentCount()) RaiseListIndexError(AIndex);
+  return FComponents[std::size_t(AIndex)];
+}
+
+TComponent* TComponent::FindComponent(const String& AName) const {
+  if (AName.empty()) return nullptr;
+  for (TComponent* component : FComponents)
+    if (SameText(component->FName, AName)) return component;
+  return nullptr;
+}
+
+void TComponent::InsertComponent(TComponent* AComponent) {
+  TARVO_ASSERT(AComponent != nullptr && AComponent != this);
+  if (AComponent->FOwner == this) return;
+  ValidateRename(AComponent, AComponent->FName);
+  if (AComponent->FOwner) AComponent->FOwner->RemoveComponent(AComponent);
+  FComponents.push_back(AComponent);
+  AComponent->FOwner = this;
+  if (FComponentState.Contains(csDesigning)) AComponent->SetDesigning(true, true);
+  Notification(AComponent, opInsert);
+}
+
+void TComponent::RemoveComponent(TComponent* AComponent) {
+  TARVO_ASSERT(AComponent != nullptr && AComponent->FOwner == this);
+  Notification(AComponent, opRemove);
+  std::erase(FComponents, AComponent);
+  AComponent->FOwner = nullptr;
+}
+
+void TComponent::FreeNotification(TComponent* AComponent) {
+  TARVO_ASSERT(AComponent != nullptr);
+  // A component on its way out takes no new references.
+  if (AComponent == this || (FComponentState + AComponent->FComponentState).Contains(csDestroying)) return;
+  if (std::find(FFreeNotifies.begin(), FFreeNotifies.end(), AComponent) != FFreeNotifies.end()) return;
+  FFreeNotifies.push_back(AComponent);
+  AComponent->FFreeNotifies.push_back(this);
+}
+
+void TComponent::RemoveFreeNotification(TComponent* AComponent) {
+  std::erase(FFreeNotifies, AComponent);
+  if (AComponent) std::erase(AComponent->FFreeNotifies, this);
+}
+
+void TComponent::Notification(TComponent* AComponent, TOperation AOperation) {
+  if (AOperation == opRemove && AComponent) RemoveFreeNotification(AComponent);
+  // A notified component may give up others: the index is checked at every step.
+  for (std::size_t i = FComponents.size(); i-- > 0;)
+    if (i < FComponents.size()) FComponents[i]->Notification(AComponent, AOperation);
+}
+
+void TComponent::Loaded() { FComponentState.Exclude(csLoading); }
+
+void TComponent::SetDesigning(Boolean AValue, Boolean ASetChildren) {
+  if (AValue) FComponentState.Include(csDesigning);
+  else FComponentState.Exclude(csDesigning);
+  if (ASetChildren)
+    for (TComponent* component : FComponents) component->SetDesigning(AValue, true);
+}
+
+// ---- TComponentHelper ----
+
+void TComponentHelper::SetIntDesigning(TComponent* AComponent, Boolean AValue, Boolean ASetChildren) {
+  AComponent->SetDesigning(AValue, ASetChildren);
+}
+
+void TComponentHelper::SetIntLoading(TComponent* AComponent, Boolean AValue) {
+  if (AValue) AComponent->FComponentState.Include(csLoading);
+  else if (AComponent->FComponentState.Contains(csLoading)) AComponent->Loaded();
+}
+
+TComponent* TComponentHelper::CreateComponent(TComponentClass AClass, TComponent* AOwner, Boolean ADesigning,
+                                              Boolean ALoading) {
+  TARVO_ASSERT(AClass);
+  TComponentState state;
+  if (ADesigning) state.Include(csDesigning);
+  if (ALoading) state.Include(csLoading);
+  const TPendingStateScope scope(state);
+  return AClass.Create(AOwner);
+}
+
+} // namespace Tarvo

@@ -1,0 +1,240 @@
+#include <gtest/gtest.h>
+
+#include "design/reflection/TypeInfo.h"
+#include "runtime/LockItem.h"
+#include "tests/runtime/ComponentTestSupport.h"
+
+namespace Tarvo {
+
+TARVO_IMPLEMENT_CLASS(TTestLogComponent)
+
+// Makes an owned component in its constructor, and keeps the state that one saw.
+class TTestCompoundComponent : public TComponent {
+  TARVO_CLASS(TTestCompoundComponent, TComponent)
+public:
+  explicit TTestCompoundComponent(TComponent* AOwner)
+      : TComponent(AOwner), PartState(Construct<TTestLogComponent>(this)->StateAtConstruction) {}
+  TComponentState PartState;
+};
+TARVO_IMPLEMENT_CLASS(TTestCompoundComponent)
+
+class TTestAbstractComponent : public TComponent {
+  TARVO_CLASS(TTestAbstractComponent, TComponent)
+public:
+  using TComponent::TComponent;
+  virtual void Run() = 0;
+};
+TARVO_IMPLEMENT_CLASS(TTestAbstractComponent)
+
+class TTestLockComponent : public TImplements<TComponent, ILockItem> {
+  TARVO_CLASS(TTestLockComponent, TImplements<TComponent, ILockItem>)
+public:
+  explicit TTestLockComponent(TComponent* AOwner) : TImplements(AOwner) {}
+  TProc<> GetNotifier() override {
+    return [this] { ++Fired; };
+  }
+  int Fired = 0;
+};
+TARVO_IMPLEMENT_CLASS(TTestLockComponent)
+
+namespace {
+
+using TComponentPtr = TOwnedObject<TComponent>;
+
+String NameError(TComponent& AComponent, const String& AName) {
+  try {
+    AComponent.SetName(AName);
+  } catch (const EComponentError& e) {
+    return e.Message();
+  }
+  return String();
+}
+
+// ---- Names ----
+
+TEST(ComponentNameTest, OnlyIdentifiersAreNames) {
+  const TComponentPtr component(Construct<TComponent>(nullptr));
+  const struct {
+    const char* Name;
+    bool Valid;
+  } cases[] = {{"Button1", true}, {"_x9", true}, {"", true},     {"1abc", false}, {"a b", false},
+               {"a.b", false},    {"a-b", false}, {"\xC3\xA9", false}, {" a", false}};
+  for (const auto& c : cases) {
+    const String error = NameError(*component, c.Name);
+    if (c.Valid) {
+      EXPECT_EQ(error, "") << c.Name;
+      EXPECT_EQ(component->GetName(), c.Name);
+    } else {
+      EXPECT_EQ(error, "'" + String(c.Name) + "' is not a valid component name");
+      EXPECT_NE(component->GetName(), c.Name);
+    }
+  }
+}
+
+TEST(ComponentNameTest, NamesAreUniqueAmongAnOwnersComponentsWhateverTheCase) {
+  const TComponentPtr owner(Construct<TComponent>(nullptr));
+  TComponent* first = NewLogged(owner.get(), "Button1");
+  TComponent* second = NewLogged(owner.get(), "Other");
+  EXPECT_EQ(NameError(*second, "BUTTON1"), "A component named BUTTON1 already exists");
+  EXPECT_EQ(second->GetName(), "Other");
+  EXPECT_EQ(NameError(*first, "BUTTON1"), ""); // its own name in another case
+  EXPECT_EQ(owner->FindComponent("button1"), first);
+
+  // Components of other owners, and those of none, may share a name; taking one in checks its
+  // name against the new owner's, and a refused one stays where it was.
+  const TComponentPtr elsewhere(NewLogged(nullptr, "Other"));
+  TComponent* stranger = NewLogged(elsewhere.get(), "Button1");
+  EXPECT_THROW(owner->InsertComponent(stranger), EComponentError);
+  EXPECT_EQ(stranger->Owner(), elsewhere.get());
+
+  // Empty names never collide.
+  EXPECT_EQ(NameError(*second, ""), "");
+  EXPECT_EQ(NameError(*first, ""), "");
+  EXPECT_EQ(owner->FindComponent(""), nullptr);
+}
+
+TEST(ComponentNameTest, ReflectionSeesTheNamedTypesAndPassesErrorsThrough) {
+  const TComponentPtr component(Construct<TComponent>(nullptr));
+  const TRef<IClassTypeInfo> type = TRttiObjectHelper::TypeInfo(component.get(), false);
+  TRef<IValueMemberInfo> name, tag;
+  ASSERT_TRUE(type->FindMember("Name", name));
+  ASSERT_TRUE(type->FindMember("Tag", tag));
+  EXPECT_EQ(name->GetTypeInfo()->GetHandle(), &TypeInfo_TComponentName);
+  EXPECT_EQ(tag->GetTypeInfo()->GetHandle(), &TypeInfo_NativeInt);
+  EXPECT_THROW(name->SetFromString(component.get(), "9lives"), EComponentError);
+  EXPECT_TRUE(tag->GetIsDefault(component.get(), false));
+  tag->SetFromString(component.get(), "42");
+  EXPECT_EQ(component->GetTag(), 42);
+  EXPECT_FALSE(tag->GetIsDefault(component.get(), false));
+}
+
+// ---- Ownership ----
+
+TEST(ComponentOwnershipTest, OwnerDestroysItsComponentsLastFirstTellingEach) {
+  TLog log;
+  TTestLogComponent* owner = NewLogged(nullptr, "Owner", &log);
+  NewLogged(owner, "A", &log);
+  NewLogged(owner, "B", &log);
+  EXPECT_EQ(log, (TLog{"Owner: insert A", "A: insert B", "Owner: insert B"})); // siblings hear too
+  log.clear();
+  TObject::Free(owner);
+  EXPECT_EQ(log, (TLog{"A: remove B", "Owner: remove B", "destroy B", "Owner: remove A", "destroy A", "destroy Owner"}));
+}
+
+TEST(ComponentOwnershipTest, ComponentsMoveBetweenOwnersAndLeaveOnTheirOwn) {
+  TLog log;
+  const TComponentPtr first(NewLogged(nullptr, "First", &log));
+  const TComponentPtr second(NewLogged(nullptr, "Second", &log));
+  TComponent* part = NewLogged(first.get(), "Part");
+  second->InsertComponent(part);
+  EXPECT_EQ(first->ComponentCount(), 0);
+  ASSERT_EQ(second->ComponentCount(), 1);
+  EXPECT_EQ(second->Components(0), part);
+  EXPECT_EQ(part->Owner(), second.get());
+  EXPECT_THROW(second->Components(1), EListError);
+
+  TObject::Free(part); // an owned component that goes leaves its owner
+  EXPECT_EQ(second->ComponentCount(), 0);
+  EXPECT_EQ(log, (TLog{"First: insert Part", "First: remove Part", "Second: insert Part", "Second: remove Part"}));
+}
+
+// ---- Free notification ----
+
+TEST(FreeNotificationTest, TheComponentThatGoesTellsTheOtherAndBothForget) {
+  for (const bool firstGoes : {true, false}) {
+    TLog log;
+    TTestLogComponent* a = NewLogged(nullptr, "A", &log);
+    TTestLogComponent* b = NewLogged(nullptr, "B", &log);
+    a->FreeNotification(b);
+    a->FreeNotification(b); // recorded once
+    TObject::Free(firstGoes ? a : b);
+    EXPECT_EQ(log, (firstGoes ? TLog{"B: remove A", "destroy A"} : TLog{"A: remove B", "destroy B"}));
+    log.clear();
+    // The survivor no longer refers to the one that went: ending it tells nobody.
+    TObject::Free(firstGoes ? b : a);
+    EXPECT_EQ(log, TLog{firstGoes ? "destroy B" : "destroy A"});
+  }
+}
+
+TEST(FreeNotificationTest, RemovedNotificationsAreNotSent) {
+  TLog log;
+  TTestLogComponent* a = NewLogged(nullptr, "A", &log);
+  const TOwnedObject<TTestLogComponent> b(NewLogged(nullptr, "B", &log));
+  a->FreeNotification(b.get());
+  b->RemoveFreeNotification(a); // from either side
+  TObject::Free(a);
+  EXPECT_EQ(log, TLog{"destroy A"});
+}
+
+// ---- Designing and loading ----
+
+TEST(ComponentStateTest, ConstructorsSeeTheStateAskedOfCreateComponent) {
+  const TComponentPtr owner(Construct<TComponent>(nullptr));
+  for (const bool designing : {false, true})
+    for (const bool loading : {false, true}) {
+      auto* component = static_cast<TTestLogComponent*>(
+          TComponentHelper::CreateComponent(TTestLogComponent::ClassInfo(), owner.get(), designing, loading));
+      EXPECT_EQ(component->StateAtConstruction.Contains(csDesigning), designing);
+      EXPECT_EQ(component->StateAtConstruction.Contains(csLoading), loading);
+      EXPECT_EQ(component->Owner(), owner.get());
+    }
+  // The pending state was taken: a component made afterwards starts clean.
+  const TOwnedObject<TTestLogComponent> plain(Construct<TTestLogComponent>(nullptr));
+  EXPECT_TRUE(plain->StateAtConstruction.IsEmpty());
+}
+
+TEST(ComponentStateTest, OwnedPartsTakeDesigningFromTheirOwnerButNotLoading) {
+  const TComponentPtr compound(
+      TComponentHelper::CreateComponent(TTestCompoundComponent::ClassInfo(), nullptr, true, true));
+  const TComponentState partState = static_cast<TTestCompoundComponent*>(compound.get())->PartState;
+  EXPECT_TRUE(partState.Contains(csDesigning));
+  EXPECT_FALSE(partState.Contains(csLoading));
+}
+
+TEST(ComponentStateTest, AFailedCreationLeavesNoPendingState) {
+  EXPECT_THROW(TComponentHelper::CreateComponent(TTestAbstractComponent::ClassInfo(), nullptr, true, true), EInvalidCast);
+  const TOwnedObject<TTestLogComponent> plain(Construct<TTestLogComponent>(nullptr));
+  EXPECT_TRUE(plain->StateAtConstruction.IsEmpty());
+}
+
+TEST(ComponentStateTest, DesigningReachesChildrenOnlyWhenAskedAndLoadingEndsThroughLoaded) {
+  const TComponentPtr owner(Construct<TComponent>(nullptr));
+  TTestLogComponent* child = NewLogged(owner.get(), "Child");
+  TComponentHelper::SetIntDesigning(owner.get(), true, false);
+  EXPECT_TRUE(owner->ComponentState().Contains(csDesigning));
+  EXPECT_FALSE(child->ComponentState().Contains(csDesigning));
+  TComponentHelper::SetIntDesigning(owner.get(), true, true);
+  EXPECT_TRUE(child->ComponentState().Contains(csDesigning));
+  EXPECT_TRUE(NewLogged(owner.get(), "Late")->ComponentState().Contains(csDesigning)); // inserted into a designing owner
+  TComponentHelper::SetIntDesigning(owner.get(), false, true);
+  EXPECT_FALSE(child->ComponentState().Contains(csDesigning));
+
+  TComponentHelper::SetIntLoading(child, true);
+  EXPECT_TRUE(child->ComponentState().Contains(csLoading));
+  TComponentHelper::SetIntLoading(child, false);
+  TComponentHelper::SetIntLoading(child, false); // not loading any more: nothing to end
+  EXPECT_FALSE(child->ComponentState().Contains(csLoading));
+  EXPECT_EQ(child->LoadedCalls, 1);
+}
+
+// ---- Interfaces ----
+
+TEST(ComponentInterfaceTest, LockItemNotifierFiresAndReferencesDoNotCount) {
+  const TOwnedObject<TTestLockComponent> item(Construct<TTestLockComponent>(nullptr));
+  {
+    TRef<ILockItem> reference;
+    ASSERT_TRUE(Supports(static_cast<TObject*>(item.get()), reference));
+    EXPECT_EQ(ObjectOf(reference), item.get());
+  } // the released reference leaves the component alone
+  EXPECT_TRUE(NotifyLockItem(item.get()));
+  EXPECT_TRUE(NotifyLockItem(item.get()));
+  EXPECT_EQ(item->Fired, 2);
+
+  const TComponentPtr plain(Construct<TComponent>(nullptr));
+  EXPECT_FALSE(NotifyLockItem(plain.get()));
+  TRef<IInterface> unknown;
+  EXPECT_TRUE(Supports(static_cast<TObject*>(plain.get()), unknown));
+}
+
+} // namespace
+} // namespace Tarvo

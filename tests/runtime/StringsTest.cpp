@@ -1,0 +1,133 @@
+#include <gtest/gtest.h>
+
+#include "runtime/Graphics.h"
+#include "runtime/Strings.h"
+
+namespace Tarvo {
+namespace {
+
+using TLines = std::vector<String>;
+
+TLines LinesOf(const TStrings& AStrings) {
+  TLines lines;
+  for (Integer i = 0; i < AStrings.Count(); ++i) lines.push_back(AStrings.Strings(i));
+  return lines;
+}
+
+TOwnedObject<TStringList> ListOf(const TLines& ALines) {
+  TOwnedObject<TStringList> list(Construct<TStringList>());
+  for (const String& line : ALines) list->Add(line);
+  return list;
+}
+
+String ErrorOf(const std::function<void()>& AAction) {
+  try {
+    AAction();
+  } catch (const EListError& e) {
+    return e.Message();
+  }
+  return String();
+}
+
+TEST(StringListTextTest, TextSplitsAtEveryKindOfLineBreakAndJoinsWithLF) {
+  const struct {
+    const char* Text;
+    TLines Lines;
+    const char* Joined;
+  } cases[] = {
+      {"", {}, ""},
+      {"a", {"a"}, "a\n"},
+      {"a\nb\n", {"a", "b"}, "a\nb\n"},
+      {"a\r\nb", {"a", "b"}, "a\nb\n"},
+      {"a\rb\r\n\nc", {"a", "b", "", "c"}, "a\nb\n\nc\n"},
+      {"\n", {""}, "\n"},
+      {"\n\n", {"", ""}, "\n\n"},
+  };
+  const TOwnedObject<TStringList> list(Construct<TStringList>());
+  for (const auto& c : cases) {
+    list->SetText(c.Text);
+    EXPECT_EQ(LinesOf(*list), c.Lines) << c.Text;
+    EXPECT_EQ(list->GetText(), c.Joined) << c.Text;
+  }
+}
+
+TEST(StringListTextTest, CommaTextQuotesWhatWouldNotSurviveAndReadsItBack) {
+  const TLines lines = {"a", "b c", "", "x\"y", "d,e", "\xC3\xA9t\xC3\xA9"};
+  const auto list = ListOf(lines);
+  EXPECT_EQ(list->GetCommaText(), "a,\"b c\",\"\",\"x\"\"y\",\"d,e\",\xC3\xA9t\xC3\xA9");
+  const auto copy = ListOf({});
+  copy->SetCommaText(list->GetCommaText());
+  EXPECT_EQ(LinesOf(*copy), lines);
+
+  const std::pair<const char*, TLines> parsed[] = {
+      {"a b,c", {"a", "b", "c"}}, // blanks separate outside quotes
+      {"a,,b", {"a", "", "b"}},
+      {"a,", {"a", ""}},
+      {"  \"q r\" , s", {"q r", "s"}},
+      {"", {}},
+  };
+  for (const auto& [text, expected] : parsed) {
+    copy->SetCommaText(text);
+    EXPECT_EQ(LinesOf(*copy), expected) << text;
+  }
+}
+
+TEST(StringListSortedTest, AddsGoToTheirPlaceAndDuplicatesFollowTheRule) {
+  const auto list = ListOf({"pear", "apple"});
+  list->SetSorted(true); // sorts what is there
+  EXPECT_EQ(LinesOf(*list), (TLines{"apple", "pear"}));
+  EXPECT_EQ(list->Add("Banana"), 1);
+  EXPECT_EQ(list->Add("zucchini"), 3);
+  EXPECT_EQ(LinesOf(*list), (TLines{"apple", "Banana", "pear", "zucchini"}));
+  EXPECT_EQ(list->IndexOf("PEAR"), 2);
+  EXPECT_EQ(list->IndexOf("plum"), -1);
+
+  EXPECT_EQ(list->Add("APPLE"), 0); // ignored: already there in another case
+  EXPECT_EQ(list->Count(), 4);
+  list->SetDuplicates(dupError);
+  EXPECT_EQ(ErrorOf([&] { list->Add("apple"); }), "String list does not allow duplicates");
+  list->SetDuplicates(dupAccept);
+  list->Add("apple");
+  EXPECT_EQ(list->Count(), 5);
+
+  EXPECT_EQ(ErrorOf([&] { list->Insert(0, "x"); }), "Operation not allowed on sorted list");
+  EXPECT_EQ(ErrorOf([&] { list->Put(0, "x"); }), "Operation not allowed on sorted list");
+
+  list->SetCaseSensitive(true); // resorts: upper case first
+  EXPECT_EQ(list->Strings(0), "Banana");
+  EXPECT_EQ(list->IndexOf("PEAR"), -1);
+}
+
+TEST(StringListEditTest, EditsCheckIndexesAndTellOncePerChange) {
+  const auto list = ListOf({"a", "b", "c"});
+  int notices = 0;
+  list->AddChangeHandler([&] { ++notices; });
+  list->Insert(1, "x");
+  list->Delete(0);
+  list->Put(0, "y");
+  EXPECT_EQ(LinesOf(*list), (TLines{"y", "b", "c"}));
+  EXPECT_EQ(notices, 3);
+  list->SetText("1\n2\n3\n");
+  EXPECT_EQ(notices, 4);
+  list->Clear();
+  list->Clear(); // empty already
+  EXPECT_EQ(notices, 5);
+  EXPECT_EQ(ErrorOf([&] { list->Strings(0); }), "List index out of bounds (0)");
+  EXPECT_EQ(ErrorOf([&] { list->Insert(1, "z"); }), "List index out of bounds (1)");
+  EXPECT_EQ(ErrorOf([&] { list->Delete(-1); }), "List index out of bounds (-1)");
+}
+
+TEST(StringListEditTest, AssignCopiesStringsOnlyFromStrings) {
+  const auto source = ListOf({"one", "two"});
+  const auto list = ListOf({"old"});
+  int notices = 0;
+  list->AddChangeHandler([&] { ++notices; });
+  list->Assign(source.get());
+  EXPECT_EQ(LinesOf(*list), (TLines{"one", "two"}));
+  EXPECT_EQ(notices, 1);
+  const TOwnedObject<TFont> font(Construct<TFont>());
+  EXPECT_THROW(list->Assign(font.get()), EConvertError);
+}
+
+} // namespace
+} // namespace Tarvo
