@@ -34,6 +34,8 @@ TARVO_DECLARE_EXCEPTION(EArgumentException, Exception)
 TARVO_DECLARE_EXCEPTION(EArgumentOutOfRangeException, EArgumentException)
 TARVO_DECLARE_EXCEPTION(EListError, Exception)
 TARVO_DECLARE_EXCEPTION(EModuleError, Exception)
+TARVO_DECLARE_EXCEPTION(EComponentError, Exception)
+TARVO_DECLARE_EXCEPTION(EInvalidOperation, Exception)
 TARVO_DECLARE_EXCEPTION(EDesignPropertyError, Exception)
 
 // Raises EAssertionFailed with "Assertion failure (file, line N)"; never aborts, so argument

@@ -3,6 +3,7 @@
 // points at the metaclass: name, parent, owning module, and for classes of a hierarchy that
 // constructs through a virtual constructor, a typed factory.
 
+#include <memory>
 #include <string>
 #include <type_traits>
 
@@ -80,6 +81,12 @@ template <class T, class... AArgs> T* Construct(AArgs&&... AArgsList) {
   }
   return result;
 }
+
+// Ends an object through Free, so that BeforeDestruction runs; for owned sub-objects.
+struct TFreeObject {
+  void operator()(TObject* AObject) const { TObject::Free(AObject); }
+};
+template <class T> using TOwnedObject = std::unique_ptr<T, TFreeObject>;
 
 // The object behind an interface, when it is one of ours; nil otherwise.
 TObject* ObjectOf(IInterface* AIntf);

@@ -65,6 +65,12 @@ String TrimRight(std::string_view AText) {
   return String(AText);
 }
 
+bool IsValidIdent(std::string_view AText) {
+  const auto isAlpha = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_'; };
+  if (AText.empty() || !isAlpha(AText.front())) return false;
+  return std::all_of(AText.begin(), AText.end(), [&](char c) { return isAlpha(c) || (c >= '0' && c <= '9'); });
+}
+
 String Trim(std::string_view AText) { return TrimLeft(TrimRight(AText)); }
 
 // ---- Integers ----

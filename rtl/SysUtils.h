@@ -36,6 +36,8 @@ String UpperCase(std::string_view AText);
 String LowerCase(std::string_view AText);
 // Drop bytes <= ' ' at either end.
 String Trim(std::string_view AText);
+// Letters, digits and underscores, not starting with a digit.
+bool IsValidIdent(std::string_view AText);
 String TrimLeft(std::string_view AText);
 String TrimRight(std::string_view AText);
 

@@ -10,13 +10,6 @@ namespace Tarvo {
 
 namespace {
 
-// Letters, digits and underscores, not starting with a digit.
-bool IsValidIdent(const String& AText) {
-  const auto isAlpha = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_'; };
-  if (AText.empty() || !isAlpha(AText.front())) return false;
-  return std::all_of(AText.begin(), AText.end(), [&](char c) { return isAlpha(c) || (c >= '0' && c <= '9'); });
-}
-
 // The state that the next TComponent constructor on this thread starts with.
 thread_local TComponentState GPendingState;
 

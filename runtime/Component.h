@@ -24,13 +24,6 @@
 
 namespace Tarvo {
 
-TARVO_DECLARE_EXCEPTION(EComponentError, Exception)
-
-// Ends an object through Free, so that BeforeDestruction runs; for owned sub-objects.
-struct TFreeObject {
-  void operator()(TObject* AObject) const { TObject::Free(AObject); }
-};
-template <class T> using TOwnedObject = std::unique_ptr<T, TFreeObject>;
 
 class TPersistent : public TObject {
   TARVO_CLASS(TPersistent, TObject)

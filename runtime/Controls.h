@@ -9,7 +9,6 @@
 
 namespace Tarvo {
 
-TARVO_DECLARE_EXCEPTION(EInvalidOperation, Exception)
 
 class TControl;
 class TWinControl;
