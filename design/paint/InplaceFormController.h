@@ -1,0 +1,136 @@
+#pragma once
+// In-place forms: small forms that open inside the member grid under the row being edited. A
+// property editor offers them through IPropertyEditorInplace; TInplaceEditorFormController<F>
+// makes and tracks the forms of class F, and TInplaceForm is the grid's handle on one of them.
+
+#include <QPointer>
+#include <QWidget>
+
+#include <memory>
+
+#include "containers/ArrayList.h"
+#include "design/paint/EditorPaint.h"
+#include "platform/ControlColor.h"
+
+namespace Tarvo {
+
+class IInplaceForm : public virtual IInterface {
+  TARVO_INTERFACE(IInplaceForm, IInterface, "{3646D2DC-956D-445C-B3A2-B4D08C5441A9}")
+public:
+  // The form decides its height; the grid opens the row that far. 0 once the form is gone.
+  virtual Integer GetHeight() = 0;
+  virtual void UpdateColor(TColor AColor) = 0;
+  // Moves and widens the form; its height stays its own.
+  virtual void UpdateRect(const TIGXRect& ARect) = 0;
+  // Nil once the form is gone.
+  virtual QWidget* GetForm() = 0;
+  virtual TRef<IMemberUIUpdate> GetUIUpdate() = 0;
+};
+
+// The form's own life decides: when its parent takes it down first, the handle answers as for no
+// form; when the handle goes first, it takes the form with it.
+class TInplaceForm : public TImplements<TInterfacedObject, IInplaceForm> {
+public:
+  TInplaceForm(QWidget* AInplaceForm, TRef<IMemberUIUpdate> AUIUpdate);
+  ~TInplaceForm() override;
+
+  Integer GetHeight() override;
+  void UpdateColor(TColor AColor) override;
+  void UpdateRect(const TIGXRect& ARect) override;
+  QWidget* GetForm() override { return FInplaceForm; }
+  TRef<IMemberUIUpdate> GetUIUpdate() override { return FUIUpdate; }
+
+private:
+  QPointer<QWidget> FInplaceForm;
+  TRef<IMemberUIUpdate> FUIUpdate;
+};
+
+class IPropertyEditorInplace : public virtual IInterface {
+  TARVO_INTERFACE(IPropertyEditorInplace, IInterface, "{3C652DC0-F9DA-4B44-900B-A778CE0FF2AB}")
+public:
+  // Opens a form on AParent (the grid's widget) at ARect, in the colour of a plain list row.
+  virtual TRef<IInplaceForm> GetInplaceForm(QWidget* AParent, const TRef<IPaintObjects>& APaintObjects,
+                                            const TRef<IMemberUIUpdate>& AUIUpdate, const TIGXRect& ARect) = 0;
+  // Forgets the form.
+  virtual void DropForm(const TRef<IInplaceForm>& AForm) = 0;
+};
+
+// An open form of class F with the grid handle it was opened for; the form is nil once gone.
+template <class F> struct TInplaceFormInfo {
+  F* Form = nullptr;
+  TRef<IMemberUIUpdate> UIUpdate;
+};
+
+template <class F> class IInplaceEditorFormController : public virtual IPropertyEditorInplace {
+  TARVO_INTERFACE(IInplaceEditorFormController, IPropertyEditorInplace, "{737ED2EE-42E9-49CE-9472-9A428336815F}")
+public:
+  // A snapshot of the forms opened and not dropped, in opening order.
+  virtual TRef<IArrayList<TInplaceFormInfo<F>>> GetForms() = 0;
+  // The grid handle of the form opened last.
+  virtual TRef<IMemberUIUpdate> GetUIUpdate() = 0;
+};
+
+namespace Detail {
+// Runs the handler, while it lives, whenever AForm is asked to close.
+void HandleFormClose(QWidget* AForm, std::weak_ptr<const TProc<>> AHandler);
+} // namespace Detail
+
+template <class F> class TInplaceEditorFormController
+    : public TImplements<TInterfacedObject, IInplaceEditorFormController<F>> {
+public:
+  // Makes a new form, unparented, for the rectangle it will open at.
+  using TMakeFormInstance = TFunc<TIGXRect, F*>;
+  // Wires a new form's events and gives it its first value.
+  using TUpdateForm = TProc<F*>;
+
+  explicit TInplaceEditorFormController(TMakeFormInstance AOnMakeInstance, TUpdateForm AOnUpdateForm = nullptr)
+      : FOnMakeInstance(std::move(AOnMakeInstance)), FOnUpdateForm(std::move(AOnUpdateForm)) {
+    TARVO_ASSERT(FOnMakeInstance != nullptr);
+  }
+
+  TRef<IInplaceForm> GetInplaceForm(QWidget* AParent, const TRef<IPaintObjects>& APaintObjects,
+                                    const TRef<IMemberUIUpdate>& AUIUpdate, const TIGXRect& ARect) override {
+    F* form = FOnMakeInstance(ARect);
+    TARVO_ASSERT(form != nullptr);
+    Detail::HandleFormClose(form, FCloseHandler);
+    const TRef<IInplaceForm> result = New<TInplaceForm>(form, AUIUpdate);
+    FInplaceForms->Add(result);
+    FUIUpdate = AUIUpdate;
+    if (FOnUpdateForm) FOnUpdateForm(form);
+    form->setParent(AParent);
+    // A form and its row match until the row's state changes.
+    SetControlColor(form, APaintObjects->GetListSet()->GetNone()->GetBkgColor());
+    result->UpdateRect(ARect);
+    form->show();
+    return result;
+  }
+
+  void DropForm(const TRef<IInplaceForm>& AForm) override { FInplaceForms->RemoveOne(AForm); }
+
+  TRef<IArrayList<TInplaceFormInfo<F>>> GetForms() override {
+    const auto result = New<TArrayList<TInplaceFormInfo<F>>>();
+    for (const TRef<IInplaceForm>& form : *FInplaceForms)
+      result->Add({static_cast<F*>(form->GetForm()), form->GetUIUpdate()});
+    return result;
+  }
+
+  TRef<IMemberUIUpdate> GetUIUpdate() override { return FUIUpdate; }
+
+private:
+  // A form closed by its user ends the editing of the row and has the grid read it again.
+  void FormClose() {
+    if (!FUIUpdate) return;
+    const TRef<IMemberUIUpdate> update = FUIUpdate;
+    update->EndEdit();
+    update->Refresh(true);
+  }
+
+  TMakeFormInstance FOnMakeInstance;
+  TUpdateForm FOnUpdateForm;
+  TRef<IArrayList<TRef<IInplaceForm>>> FInplaceForms = New<TArrayList<TRef<IInplaceForm>>>();
+  TRef<IMemberUIUpdate> FUIUpdate;
+  // Forms may outlive the controller; they hold this handler weakly.
+  const std::shared_ptr<const TProc<>> FCloseHandler = std::make_shared<const TProc<>>([this] { FormClose(); });
+};
+
+} // namespace Tarvo
