@@ -52,6 +52,9 @@ public:
   bool IsNameStored() const { return FName != "unnamed"; }
   String Describe(Integer ATimes, const String& AWhat) { return AWhat + " x" + std::to_string(ATimes); }
   void Stop() { FSpeed = 0; }
+  Integer GetGear(Integer AIndex) const { return FGears.at(AIndex); }
+  void SetGear(Integer AIndex, Integer AValue) { FGears.at(AIndex) = AValue; }
+  void SetCode(String AValue) { FCode = std::move(AValue); }
 
   Integer FSpeed = 3;
   String FName = "unnamed";
@@ -59,6 +62,8 @@ public:
   TTestPart* FPart = nullptr;
   int FSecret = 7;
   int FCount = 0;
+  std::vector<Integer> FGears{10, 20, 30};
+  String FCode;
 };
 TARVO_IMPLEMENT_CLASS(TTestMachine)
 TARVO_PUBLISH(TTestMachine) {
@@ -70,6 +75,8 @@ TARVO_PUBLISH(TTestMachine) {
   Public();
   Method("Describe", &TTestMachine::Describe, {"ATimes", "AWhat"});
   Method("Stop", &TTestMachine::Stop);
+  IndexedProperty("Gears", &TTestMachine::GetGear, &TTestMachine::SetGear);
+  WriteOnlyProperty("Code", &TTestMachine::SetCode);
   Protected();
   Property("Hidden", &TTestMachine::FSecret, &TTestMachine::FSecret);
   Private();
@@ -162,12 +169,12 @@ TEST(ReflectionTest, VisibilityFiltersAndAncestorsFirst) {
   const TRef<IClassTypeInfo> fast = TRttiObjectHelper::ClassTypeInfo(TTestFastMachine::ClassInfo());
   EXPECT_EQ(mvsPublished, 8);
   EXPECT_EQ(Names(fast->GetMembers(mvsPublished)), (std::vector<String>{"Speed", "Name", "Level", "Part", "Count", "Turbo"}));
-  EXPECT_EQ(Names(fast->GetMembers(VisibilityBit(mvPublic))), (std::vector<String>{"Describe", "Stop"}));
+  EXPECT_EQ(Names(fast->GetMembers(VisibilityBit(mvPublic))), (std::vector<String>{"Describe", "Stop", "Gears", "Code"}));
   EXPECT_EQ(Names(fast->GetMembers(VisibilityBit(mvProtected) | VisibilityBit(mvPrivate))),
             (std::vector<String>{"Hidden", "FSecret"}));
   EXPECT_EQ(Names(fast->GetAllMethods()), (std::vector<String>{"Describe", "Stop"}));
   EXPECT_EQ(Names(fast->GetFields()), (std::vector<String>{"FSecret"}));
-  EXPECT_EQ(fast->GetAllMembers()->GetCount(), 10);
+  EXPECT_EQ(fast->GetAllMembers()->GetCount(), 12);
 }
 
 TEST(ReflectionTest, MemberKindsAnswerTheirInterfaces) {
@@ -188,6 +195,30 @@ TEST(ReflectionTest, MemberKindsAnswerTheirInterfaces) {
   EXPECT_TRUE(Supports<IFieldInfo>(MemberOf(&machine, "FSecret")));
   TRef<IValueMemberInfo> none;
   EXPECT_FALSE(type->FindMember("speed", none)); // names are exact
+}
+
+TEST(ReflectionTest, IndexedAndWriteOnlyProperties) {
+  TTestMachine machine;
+  const TRef<IClassTypeInfo> type = TRttiObjectHelper::TypeInfo(&machine, false);
+  TRef<IIndexedPropertyInfo> gears;
+  for (const TRef<IMemberInfo>& member : type->GetAllMembers())
+    if (member->GetName() == "Gears") Supports(member, gears);
+  ASSERT_TRUE(gears);
+  EXPECT_TRUE(Supports<IPropertyInfo>(gears));
+  EXPECT_FALSE(Supports<IValueMemberInfo>(gears)); // no value of its own, so no default editor
+  EXPECT_EQ(gears->GetIndexTypes()->GetItem(0)->GetHandle(), &TypeInfo_Integer);
+  EXPECT_EQ(gears->GetValue(&machine, {TValue(1)}).AsInteger(), 20);
+  gears->SetValue(&machine, {TValue(2)}, TValue(33));
+  EXPECT_EQ(machine.FGears[2], 33);
+
+  TRef<ISinglePropertyInfo> code;
+  ASSERT_TRUE(type->FindSinglePropertyMember("Code", code));
+  EXPECT_FALSE(code->GetIsReadable());
+  EXPECT_TRUE(code->GetHasWriteMethod());
+  code->SetValue(&machine, TValue("abc"));
+  EXPECT_EQ(machine.FCode, "abc");
+  EXPECT_THROW(code->GetValue(&machine), Exception);
+  EXPECT_FALSE(code->GetIsDefault(&machine, false));
 }
 
 TEST(ReflectionTest, ReadWriteAndSetterExceptionsPassThrough) {
