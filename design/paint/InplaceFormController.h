@@ -11,6 +11,7 @@
 #include "containers/ArrayList.h"
 #include "design/paint/EditorPaint.h"
 #include "platform/ControlColor.h"
+#include "platform/EventHook.h"
 
 namespace Tarvo {
 
@@ -70,11 +71,6 @@ public:
   virtual TRef<IMemberUIUpdate> GetUIUpdate() = 0;
 };
 
-namespace Detail {
-// Runs the handler, while it lives, whenever AForm is asked to close.
-void HandleFormClose(QWidget* AForm, std::weak_ptr<const TProc<>> AHandler);
-} // namespace Detail
-
 template <class F> class TInplaceEditorFormController
     : public TImplements<TInterfacedObject, IInplaceEditorFormController<F>> {
 public:
@@ -92,7 +88,9 @@ public:
                                     const TRef<IMemberUIUpdate>& AUIUpdate, const TIGXRect& ARect) override {
     F* form = FOnMakeInstance(ARect);
     TARVO_ASSERT(form != nullptr);
-    Detail::HandleFormClose(form, FCloseHandler);
+    HookEvent(form, QEvent::Close, [handler = std::weak_ptr<const TProc<>>(FCloseHandler)](QEvent*) {
+      if (const auto close = handler.lock()) (*close)();
+    });
     const TRef<IInplaceForm> result = New<TInplaceForm>(form, AUIUpdate);
     FInplaceForms->Add(result);
     FUIUpdate = AUIUpdate;
