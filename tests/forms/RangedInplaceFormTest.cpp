@@ -70,7 +70,7 @@ TEST(NumericInplaceFormTest, PositionsOfWideRangesAreMultiplesOfFour) {
   for (const auto& r : ranges) {
     const long double span = (long double)r.Max - r.Min;
     for (int i = 0; i < 200; ++i) {
-      const Int64 value = r.Min + Int64(span * i / 200.0L);
+      const Int64 value = Int64((long double)r.Min + span * i / 200.0L);
       const int position = PositionOf(value, r.Min, r.Max);
       EXPECT_EQ(position % 4, 0) << value << " in " << r.Min << ".." << r.Max << " at " << position;
     }
