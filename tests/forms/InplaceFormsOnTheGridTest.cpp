@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "design/paint/InplaceFormController.h"
-#include "forms/ColorInplaceForm.h"
 #include "forms/RangedInplaceForm.h"
 
 namespace Tarvo {
@@ -38,16 +37,6 @@ TEST(InplaceFormsOnTheGridTest, ANumericFormOpensAtItsOwnHeightAndTakesValuesQui
   for (const auto& info : *forms) info.Form->SetValue(TValue::From<Int64>(75));
   for (const auto& info : *forms) EXPECT_EQ(info.Form->TrackBar->value(), 3072);
   EXPECT_EQ(changes, 0);
-}
-
-TEST(InplaceFormsOnTheGridTest, AColourFormTakesTheRowsColourToItsBars) {
-  const auto controller = New<TInplaceEditorFormController<TColorInplaceForm>>([](TIGXRect) { return new TColorInplaceForm(); });
-  QWidget grid;
-  const auto form = controller->GetInplaceForm(&grid, New<TPaintObjects>(), New<TQuietGrid>(), TIGXRect(0, 0, 180, 16));
-  EXPECT_EQ(form->GetHeight(), TColorInplaceForm::ClientHeight);
-  form->UpdateColor(clHighlight);
-  auto* colorForm = static_cast<TColorInplaceForm*>(form->GetForm());
-  EXPECT_EQ(GetControlColor(colorForm->TrackBarRed), clHighlight);
 }
 
 } // namespace
