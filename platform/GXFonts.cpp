@@ -17,10 +17,10 @@ QFont TIGXFont::ToQFont() {
   QFont font(QString::fromStdString(FFamily));
   if (FUnit == fuPixel) font.setPixelSize(std::max(1, int(std::lround(FSize))));
   else font.setPointSizeF(FSize);
-  font.setBold(FStyle & fsBold);
-  font.setItalic(FStyle & fsItalic);
-  font.setUnderline(FStyle & fsUnderline);
-  font.setStrikeOut(FStyle & fsStrikeout);
+  font.setBold(FStyle & gfsBold);
+  font.setItalic(FStyle & gfsItalic);
+  font.setUnderline(FStyle & gfsUnderline);
+  font.setStrikeOut(FStyle & gfsStrikeout);
   return font;
 }
 

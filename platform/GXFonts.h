@@ -10,7 +10,7 @@
 namespace Tarvo {
 
 // Flags; combine with |.
-enum TIGXFontStyle : Integer { fsRegular = 0, fsBold = 1, fsItalic = 2, fsUnderline = 4, fsStrikeout = 8 };
+enum TIGXFontStyle : Integer { gfsRegular = 0, gfsBold = 1, gfsItalic = 2, gfsUnderline = 4, gfsStrikeout = 8 };
 constexpr TIGXFontStyle operator|(TIGXFontStyle A, TIGXFontStyle B) { return TIGXFontStyle(Integer(A) | Integer(B)); }
 
 // Units numbered as stored in designs; fonts take these two.
@@ -29,7 +29,7 @@ public:
 class TIGXFont : public TImplements<TInterfacedObject, IGXFont> {
 public:
   // Raises EArgumentOutOfRangeException for a size that is not positive.
-  TIGXFont(String AFamily, Single ASize, TIGXFontStyle AStyle = fsRegular, TIGXFontUnit AUnit = fuPoint);
+  TIGXFont(String AFamily, Single ASize, TIGXFontStyle AStyle = gfsRegular, TIGXFontUnit AUnit = fuPoint);
 
   String GetFamily() override { return FFamily; }
   Single GetSize() override { return FSize; }

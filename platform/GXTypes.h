@@ -8,6 +8,7 @@
 #include <QRectF>
 
 #include "rtl/Types.h"
+#include "runtime/NamedTypes.h" // TColor, TAlphaColor and the colour constants
 
 namespace Tarvo {
 
@@ -58,11 +59,6 @@ struct TIGXRect {
   friend constexpr bool operator==(const TIGXRect&, const TIGXRect&) = default;
 };
 
-// 0xAARRGGBB, the layout of QRgb.
-using TAlphaColor = Cardinal;
-// 0x00BBGGRR; a negative value names the system colour of its low byte (0xFF0000nn).
-using TColor = Integer;
-
 inline constexpr TAlphaColor claBlack = 0xFF000000u;
 inline constexpr TAlphaColor claWhite = 0xFFFFFFFFu;
 inline constexpr TAlphaColor claNull = 0x00000000u;
@@ -80,11 +76,10 @@ enum TSystemColorIndex : Byte {
 
 inline constexpr TColor SystemColor(TSystemColorIndex AIndex) { return TColor(0xFF000000u | AIndex); }
 
-inline constexpr TColor clWindow = SystemColor(scWindow);
-inline constexpr TColor clWindowText = SystemColor(scWindowText);
+static_assert(clWindow == SystemColor(scWindow) && clWindowText == SystemColor(scWindowText) &&
+              clBtnFace == SystemColor(scBtnFace));
 inline constexpr TColor clHighlight = SystemColor(scHighlight);
 inline constexpr TColor clHighlightText = SystemColor(scHighlightText);
-inline constexpr TColor clBtnFace = SystemColor(scBtnFace);
 
 // A system colour resolved through the application palette; any other colour as it is.
 // Indices the palette has no counterpart for give black.

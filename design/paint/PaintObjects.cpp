@@ -28,8 +28,8 @@ TItemObjectSet::TItemObjectSet()
 
 TPaintObjects::TPaintObjects() : FListSet(New<TItemObjectSet>()) {
   const String family = ShownFontFamily(DefaultFontFamily);
-  FFont = New<TIGXFont>(family, DefaultFontSize, fsRegular, fuPoint);
-  FModifiedFont = New<TIGXFont>(family, DefaultFontSize, fsBold, fuPoint);
+  FFont = New<TIGXFont>(family, DefaultFontSize, gfsRegular, fuPoint);
+  FModifiedFont = New<TIGXFont>(family, DefaultFontSize, gfsBold, fuPoint);
   const auto format = New<TIGXStringFormat>(sfNoWrap);
   format->SetTrimming(stEllipsisCharacter);
   format->SetLineAlignment(saCenter);

@@ -11,7 +11,7 @@ using namespace Testing;
 
 const String LongText = "The quick brown fox jumps over the lazy dog";
 
-TRef<IGXFont> Font(TIGXFontStyle AStyle = fsRegular, Single ASize = 10, TIGXFontUnit AUnit = fuPoint) {
+TRef<IGXFont> Font(TIGXFontStyle AStyle = gfsRegular, Single ASize = 10, TIGXFontUnit AUnit = fuPoint) {
   return New<TIGXFont>("DejaVu Sans", ASize, AStyle, AUnit);
 }
 
@@ -46,10 +46,10 @@ TEST(MeasureStringTest, GrowsWithTheText) {
     EXPECT_GT(box.Height, 0) << text;
     previous = box.Width;
   }
-  EXPECT_GT(Measure("Wide", Font(fsBold), TIGXSize{}).Width, Measure("Wide", font, TIGXSize{}).Width);
+  EXPECT_GT(Measure("Wide", Font(gfsBold), TIGXSize{}).Width, Measure("Wide", font, TIGXSize{}).Width);
   // 10 points are about 13 pixels at 96 dots per inch.
-  EXPECT_GT(Measure("x", Font(fsRegular, 10, fuPoint), TIGXSize{}).Height,
-            Measure("x", Font(fsRegular, 10, fuPixel), TIGXSize{}).Height);
+  EXPECT_GT(Measure("x", Font(gfsRegular, 10, fuPoint), TIGXSize{}).Height,
+            Measure("x", Font(gfsRegular, 10, fuPixel), TIGXSize{}).Height);
 }
 
 TEST(MeasureStringTest, WrapsUnlessToldNotTo) {
@@ -97,7 +97,7 @@ TEST_P(StringAlignmentTest, PlacesTheTextInItsRectangle) {
   format->SetAlignment(c.Alignment);
   format->SetLineAlignment(c.LineAlignment);
   const QRect ink = Ink(Paint(120, 60, [&](IGXGraphics& AGraphics) {
-    AGraphics.DrawString("mmmm", Font(fsRegular, 12, fuPixel), TIGXRect(0, 0, 120, 60), format, New<TIGXSolidBrush>(claBlack));
+    AGraphics.DrawString("mmmm", Font(gfsRegular, 12, fuPixel), TIGXRect(0, 0, 120, 60), format, New<TIGXSolidBrush>(claBlack));
   }));
   ASSERT_FALSE(ink.isEmpty());
   EXPECT_NEAR(ink.center().x(), c.CentreX, 12);
@@ -112,7 +112,7 @@ TEST(DrawStringTest, AnyBrushFillsTheGlyphs) {
   const TIGXRect box(0, 0, 160, 30);
   const auto brush = New<TIGXLinearGradientBrush>(box, Red, Blue, lgmHorizontal);
   const QImage image = Paint(160, 30, [&](IGXGraphics& AGraphics) {
-    AGraphics.DrawString("IIIIIIIIIIIIIIIIIIII", Font(fsBold, 24, fuPixel), box, nullptr, brush);
+    AGraphics.DrawString("IIIIIIIIIIIIIIIIIIII", Font(gfsBold, 24, fuPixel), box, nullptr, brush);
   });
   const QRect ink = Ink(image);
   ASSERT_FALSE(ink.isEmpty());
@@ -131,7 +131,7 @@ TEST(DrawStringTest, AnyBrushFillsTheGlyphs) {
 
 TEST(FontTest, SizeMustBePositive) {
   EXPECT_THROW(New<TIGXFont>("DejaVu Sans", 0.0f), EArgumentOutOfRangeException);
-  const QFont font = Font(fsBold | fsItalic | fsUnderline, 9, fuPoint)->ToQFont();
+  const QFont font = Font(gfsBold | gfsItalic | gfsUnderline, 9, fuPoint)->ToQFont();
   EXPECT_TRUE(font.bold() && font.italic() && font.underline() && !font.strikeOut());
   EXPECT_EQ(font.pointSizeF(), 9.0);
 }

@@ -35,8 +35,8 @@ TEST(PaintObjectsTest, DefaultsAndTheirFontFallback) {
   const auto modified = objects->GetModifiedFont();
   EXPECT_EQ(font->GetSize(), 8.0f);
   EXPECT_EQ(font->GetUnit(), fuPoint);
-  EXPECT_EQ(font->GetStyle(), fsRegular);
-  EXPECT_EQ(modified->GetStyle(), fsBold);
+  EXPECT_EQ(font->GetStyle(), gfsRegular);
+  EXPECT_EQ(modified->GetStyle(), gfsBold);
   EXPECT_EQ(modified->GetFamily(), font->GetFamily());
   // Whether or not the named family is installed, the one used is.
   EXPECT_TRUE(QFontDatabase::families().contains(QString::fromStdString(font->GetFamily()))) << font->GetFamily();
