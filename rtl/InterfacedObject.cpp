@@ -4,14 +4,22 @@ namespace Tarvo {
 
 TARVO_IMPLEMENT_CLASS(TInterfacedObject)
 
-HRESULT TInterfacedObject::QueryInterface(const TGUID& AIID, void** AObj) {
+HRESULT QueryRootInterface(TObject* AObject, IInterface* AIntf, const TGUID& AIID, void** AObj) {
   if (AIID == ObjCastGUID) {
-    *AObj = static_cast<TObject*>(this);
+    *AObj = AObject;
     return S_OK;
   }
-  if (QueryInterfaces<IInterface>(this, AIID, AObj)) return S_OK;
+  if (AIID == IInterface::IID) {
+    AIntf->_AddRef();
+    *AObj = AIntf;
+    return S_OK;
+  }
   *AObj = nullptr;
   return E_NOINTERFACE;
+}
+
+HRESULT TInterfacedObject::QueryInterface(const TGUID& AIID, void** AObj) {
+  return QueryRootInterface(this, this, AIID, AObj);
 }
 
 int TInterfacedObject::_AddRef() { return ++FRefCount; }

@@ -24,6 +24,9 @@ private:
   std::atomic<int> FRefCount{1};
 };
 
+// The answer of a root object: the object itself (ObjCastGUID) and IInterface.
+HRESULT QueryRootInterface(TObject* AObject, IInterface* AIntf, const TGUID& AIID, void** AObj);
+
 // Adds interfaces to a base class: TImplements<TInterfacedObject, IFoo, IBar>. QueryInterface
 // answers the listed interfaces and their ancestors, then defers to the base.
 template <class TBase, class... AInterfaces> class TImplements : public TBase, public virtual AInterfaces... {

@@ -123,15 +123,7 @@ void TComponent::Destroying() {
   for (TComponent* component : FComponents) component->Destroying();
 }
 
-HRESULT TComponent::QueryInterface(const TGUID& AIID, void** AObj) {
-  if (AIID == ObjCastGUID) {
-    *AObj = static_cast<TObject*>(this);
-    return S_OK;
-  }
-  if (QueryInterfaces<IInterface>(this, AIID, AObj)) return S_OK;
-  *AObj = nullptr;
-  return E_NOINTERFACE;
-}
+HRESULT TComponent::QueryInterface(const TGUID& AIID, void** AObj) { return QueryRootInterface(this, this, AIID, AObj); }
 
 bool TComponent::GetInterface(const TGUID& AIID, void** AObj) { return QueryInterface(AIID, AObj) == S_OK; }
 
