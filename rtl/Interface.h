@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <type_traits>
 #include <utility>
 
 #include "rtl/Guid.h"
@@ -93,7 +94,9 @@ private:
 };
 
 // The identity of the object behind an interface: its single IInterface subobject.
-template <class I> inline const IInterface* InterfaceIdentity(I* APtr) noexcept {
+template <class I>
+  requires std::is_convertible_v<I*, const IInterface*>
+inline const IInterface* InterfaceIdentity(I* APtr) noexcept {
   return APtr ? static_cast<const IInterface*>(APtr) : nullptr;
 }
 

@@ -39,9 +39,11 @@ template <class T> TValue ValueFrom(const T& AValue, PTypeInfo AType) {
   else return TValue::From<T>(AValue, AType);
 }
 
+// The record a member's value has: the one given, else the default record of T. A TValue
+// accessor, or a type without a default record (a plain record), must name its record.
 template <class T> PTypeInfo RecordOf(PTypeInfo AGiven) {
-  if constexpr (std::is_same_v<T, TValue>) {
-    TARVO_ASSERT(AGiven != nullptr); // a TValue accessor names its type
+  if constexpr (std::is_same_v<T, TValue> || !CHasTypeRecord<T>) {
+    TARVO_ASSERT(AGiven != nullptr);
     return AGiven;
   } else return AGiven ? AGiven : TypeInfo<T>();
 }

@@ -1,0 +1,87 @@
+#pragma once
+// The table that says which editor class edits which reflected member, and the lookup that
+// answers it for one member of one object: the most specific registered entry wins by a fixed
+// order of tests; when none matches, a fallback picks a default editor by the member's kind and
+// its type's kind. Lookup is a linear scan in registration order: the order is part of the
+// behaviour, so no index may replace it.
+
+#include <array>
+#include <span>
+
+#include "design/MemberEditor.h"
+#include "design/MemberKinds.h"
+
+namespace Tarvo {
+
+class TMemberEditorItem;
+
+class IMemberEditorItem : public virtual IInterface {
+  TARVO_INTERFACE(IMemberEditorItem, IInterface, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A70}")
+public:
+  virtual TMemberEditorItem* GetInstance() = 0;
+};
+
+// One registration; immutable once built.
+class TMemberEditorItem : public TImplements<TInterfaced, IMemberEditorItem> {
+  TARVO_CLASS(TMemberEditorItem, TImplements<TInterfaced, IMemberEditorItem>)
+public:
+  // The name is kept only together with an owner class.
+  TMemberEditorItem(TMemberKinds AKinds, TRef<ITypeInfo> AMemberType, TClass AOwnerClass, const String& AMemberName,
+                    TMemberEditorClass AEditorClass);
+  TMemberEditorItem* GetInstance() override { return this; }
+
+  const TMemberKinds Kinds;
+  const TRef<ITypeInfo> MemberType;
+  const String MemberName;
+  const TClass OwnerClass;
+  const TMemberEditorClass EditorClass;
+};
+
+using IMemberEditorItemList = IArrayList<TRef<IMemberEditorItem>>;
+
+// The registry; made at the unit's initialisation and released at its finalisation.
+extern TRef<ILinkedList<TRef<IMemberEditorItem>>> GMemberEditors;
+
+// The editors the fallback chooses: one per type kind (nil where a kind has none) and the
+// classes of its special cases. The package's registrations fill them in.
+struct TFallbackEditorClasses {
+  std::array<TMemberEditorClass, tkProcedure + 1> ByTypeKind{};
+  TMemberEditorClass SetValueEditor;
+  TMemberEditorClass VariantTypeEditor;
+  TMemberEditorClass MultiLineStringEditor;
+  TMemberEditorClass StringEditor;
+  TMemberEditorClass DynamicElementEditor;
+  TMemberEditorClass MethodEditor = TMethodEditor::ClassInfo();
+};
+extern TFallbackEditorClasses DefaultEditorClasses;
+
+void RegisterMemberEditor(TMemberKinds AKinds, const TRef<ITypeInfo>& AMemberType, TClass AOwnerClass,
+                          const String& AMemberName, TMemberEditorClass AEditorClass);
+
+void RegisterPropertyEditor(const TRef<ITypeInfo>& AMemberType, TClass AOwnerClass, const String& AMemberName,
+                            TMemberEditorClass AEditorClass);
+// One entry for each owner class, in order.
+void RegisterPropertyEditor(const TRef<ITypeInfo>& AMemberType, std::span<const TClass> AOwnerClasses,
+                            const String& AMemberName, TMemberEditorClass AEditorClass);
+void RegisterPropertyEditor(const TRef<ITypeInfo>& AMemberType, TMemberEditorClass AEditorClass);
+void RegisterPropertyEditor(PTypeInfo AMemberType, TMemberEditorClass AEditorClass);
+void RegisterPropertyEditor(PTypeInfo AMemberType, TClass AOwnerClass, const String& AMemberName,
+                            TMemberEditorClass AEditorClass);
+void RegisterPropertyEditor(PTypeInfo AMemberType, std::span<const TClass> AOwnerClasses, const String& AMemberName,
+                            TMemberEditorClass AEditorClass);
+
+// The entries that serve AMember of AObject, ties in registration order. False with a nil list
+// for a hidden member; false with an empty list when nothing serves.
+bool GetMemberEditorEntries(const TRef<IMemberInfo>& AMember, TObject* AObject, TRef<IMemberEditorItemList>& AResult);
+// The editor classes of those entries; the caller builds element 0.
+bool GetMemberEditorClasses(const TRef<IMemberInfo>& AMember, TObject* AObject,
+                            TRef<IArrayList<TMemberEditorClass>>& AResult);
+
+// Registers THiddenEditor for the hidden members reached from a component class's published
+// members; a type met before in the walk is not looked at again.
+void RegisterHiddenMembers(TClass AComponentClass);
+
+// Removes every entry whose item class, owner class, editor class or member type lies in AModule.
+void SweepMemberEditors(TModule* AModule);
+
+} // namespace Tarvo
