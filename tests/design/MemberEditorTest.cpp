@@ -1,0 +1,146 @@
+#include <gtest/gtest.h>
+
+#include "design/MemberEditor.h"
+#include "design/reflection/Publish.h"
+
+namespace Tarvo {
+
+class TEdTestGadget : public TObject {
+  TARVO_CLASS(TEdTestGadget, TObject)
+public:
+  explicit TEdTestGadget(Integer AWidth = 0) : FWidth(AWidth) {}
+  Integer FWidth;
+  String FTitle;
+  void Reset() {}
+  String Join(Integer, const String&) { return String(); }
+  Integer Measure() { return 0; }
+};
+class TEdTestOtherGadget : public TObject {
+  TARVO_CLASS(TEdTestOtherGadget, TObject)
+};
+TARVO_IMPLEMENT_CLASS(TEdTestGadget)
+TARVO_IMPLEMENT_CLASS(TEdTestOtherGadget)
+TARVO_PUBLISH(TEdTestGadget) {
+  Property("Width", &TEdTestGadget::FWidth, &TEdTestGadget::FWidth);
+  Property("Title", &TEdTestGadget::FTitle, &TEdTestGadget::FTitle).Attr<NameAttribute>("Heading");
+  Public();
+  Method("Reset", &TEdTestGadget::Reset);
+  Method("Join", &TEdTestGadget::Join, {"ACount", "ASeparator"});
+  Method("Measure", &TEdTestGadget::Measure, {});
+  Method("Blind", &TEdTestGadget::Join);
+}
+
+class TWatchedEditor : public TMemberEditor {
+  TARVO_CLASS(TWatchedEditor, TMemberEditor)
+public:
+  using TMemberEditor::TMemberEditor;
+  ~TWatchedEditor() override { *Destroyed = true; }
+  static inline bool* Destroyed = nullptr;
+};
+TARVO_IMPLEMENT_CLASS(TWatchedEditor)
+
+namespace {
+
+class MemberEditorTest : public testing::Test {
+protected:
+  void SetUp() override {
+    FDesigner = New<TDesigner>();
+    TObject* selection[] = {&FFirst, &FSecond};
+    FDesigner->SetSelection(selection);
+  }
+  template <class E = TMemberEditor>
+  TRef<E> Editor(const String& AName, TObject* AOwnerObject = nullptr, TRef<IMemberInfo> AFirst = nullptr) {
+    return TRef<E>(static_cast<E*>(TClassOf<TMemberEditor>(E::ClassInfo()).Create(AOwnerObject, nullptr, TRef<IDesigner>(FDesigner),
+                                                                                  nullptr, AName, AFirst)));
+  }
+  TRef<IMemberInfo> Method(const String& AName) {
+    TRef<IMemberInfo> found;
+    TRttiObjectHelper::ClassTypeInfo(TEdTestGadget::ClassInfo())->GetAllMethods()->Query()->Find(
+        [&](const TRef<IMemberInfo>& AMember) { return AMember->GetName() == AName; }, found);
+    return found;
+  }
+
+  TEdTestGadget FFirst{1}, FSecond{2}, FLone{3};
+  TEdTestOtherGadget FOther;
+  TRef<TDesigner> FDesigner;
+};
+
+TEST_F(MemberEditorTest, MembersAreCollectedOnceWhateverListComesLater) {
+  const TRef<TMemberEditor> editor = Editor("Width");
+  const TRef<IMemberInfoList> first = editor->GetMembers(nullptr);
+  EXPECT_EQ(first->GetCount(), 2);
+  const TRef<IObjectArrayList> other = New<TObjectArrayList>()->Add(&FLone);
+  EXPECT_TRUE(editor->GetMembers(other) == first);
+  EXPECT_EQ(editor->GetFirstMember()->GetName(), "Width");
+}
+
+TEST_F(MemberEditorTest, ObjectsWithoutTheMemberAddNothing) {
+  TObject* selection[] = {&FOther, &FFirst};
+  FDesigner->SetSelection(selection);
+  EXPECT_EQ(Editor("Width")->GetMembers(nullptr)->GetCount(), 1);
+}
+
+TEST_F(MemberEditorTest, OwnerObjectsComeFromTheListTheOwnerOrTheSelection) {
+  const TRef<IObjectArrayList> given = New<TObjectArrayList>()->Add(&FLone);
+  EXPECT_TRUE(Editor("Width")->GetOwnerObjects(given) == given);
+  const TRef<TMemberEditor> bound = Editor("Width", &FLone);
+  EXPECT_EQ(bound->GetOwnerObjects(nullptr)->ToArray(), std::vector<TObject*>{&FLone});
+  EXPECT_EQ(bound->GetOwnerObject(), &FLone);
+  const TRef<TMemberEditor> free = Editor("Width");
+  EXPECT_EQ(free->GetOwnerObjects(nullptr)->ToArray(), (std::vector<TObject*>{&FFirst, &FSecond}));
+  EXPECT_EQ(free->GetOwnerObject(), &FFirst);
+}
+
+TEST_F(MemberEditorTest, DisplayNameFromTheNameAttribute) {
+  EXPECT_EQ(Editor("Title")->GetDisplayName(), "Heading");
+  EXPECT_EQ(Editor("Width")->GetDisplayName(), "Width");
+  // A row bound to no named member shows its name with no member lookup at all.
+  EXPECT_EQ(Editor("")->GetDisplayName(), "");
+}
+
+TEST_F(MemberEditorTest, FunctionParameterStrings) {
+  struct Row {
+    const char* Method;
+    const char* Text;
+  };
+  const Row rows[] = {
+      {"Reset", "()"},
+      {"Join", "(ACount: Integer; ASeparator: string) : string"},
+      {"Measure", "() : Integer"},
+      {"Blind", "(?\?\?)"},
+  };
+  for (const Row& r : rows) {
+    const TRef<TMethodEditor> editor = Editor<TMethodEditor>(r.Method, nullptr, Method(r.Method));
+    EXPECT_EQ(editor->GetFunctionParamString(), r.Text) << r.Method;
+  }
+}
+
+TEST_F(MemberEditorTest, StockAnswersAndTheHiddenEditor) {
+  const TRef<TMemberEditor> plain = Editor("Width");
+  const TRef<THiddenEditor> hidden = Editor<THiddenEditor>("Width");
+  EXPECT_TRUE(plain->GetIsVisible());
+  EXPECT_FALSE(hidden->GetIsVisible());
+  EXPECT_TRUE(hidden->GetIsReadOnly());
+  EXPECT_FALSE(hidden->GetIsExpandable());
+  EXPECT_EQ(hidden->GetEditorName(), "THiddenEditor");
+  TRef<IMembersInfo> sub = New<TMembersInfo>();
+  EXPECT_FALSE(plain->GetSubMembers(sub, true));
+  EXPECT_FALSE(sub);
+  EXPECT_EQ(plain->GetIsDefaultsByStored(nullptr)->GetCount(), 2);
+}
+
+TEST_F(MemberEditorTest, CountStartsAtZeroAndTheLastReleaseEndsTheEditor) {
+  bool destroyed = false;
+  TWatchedEditor::Destroyed = &destroyed;
+  TMemberEditor* raw = TMemberEditorClass(TWatchedEditor::ClassInfo()).Create(nullptr, nullptr, nullptr, nullptr, String(), nullptr);
+  EXPECT_EQ(raw->RefCount(), 0);
+  {
+    const TRef<IMemberEditor> held(raw);
+    EXPECT_EQ(raw->RefCount(), 1);
+    EXPECT_EQ(held->GetInstance(), raw);
+  }
+  EXPECT_TRUE(destroyed);
+}
+
+} // namespace
+} // namespace Tarvo
