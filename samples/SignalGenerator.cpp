@@ -1,0 +1,97 @@
+#include "samples/SignalGenerator.h"
+
+#include <cmath>
+#include <numbers>
+
+#include "design/reflection/Publish.h"
+#include "rtl/SysUtils.h"
+#include "samples/SignalPalette.h"
+
+namespace Tarvo {
+
+TARVO_IMPLEMENT_ENUM(TWaveform)
+TARVO_IMPLEMENT_CLASS(TSignalGenerator)
+
+TARVO_PUBLISH(TSignalGenerator) {
+  Property("Waveform", &TSignalGenerator::GetWaveform, &TSignalGenerator::SetWaveform).Default(wfSine);
+  Property("Frequency", &TSignalGenerator::GetFrequency, &TSignalGenerator::SetFrequency)
+      .Default(TSignalGenerator::DefaultFrequency)
+      .Attr<DesignRangeAttribute>(TValue(0.1), TValue(20000.0));
+  // The peak-to-peak row follows the amplitude.
+  Property("Amplitude", &TSignalGenerator::GetAmplitude, &TSignalGenerator::SetAmplitude)
+      .Default(1.0)
+      .Attr<RefreshPropertiesAttribute>();
+  Property("PeakToPeak", &TSignalGenerator::GetPeakToPeak);
+  Property("Phase", &TSignalGenerator::GetPhase, &TSignalGenerator::SetPhase)
+      .Default(Single(0))
+      .Attr<NameAttribute>("Phase (degrees)");
+  // Only the rates a sound device offers.
+  Property("SampleRate", &TSignalGenerator::GetSampleRate, &TSignalGenerator::SetSampleRate)
+      .Default(TSignalGenerator::DefaultSampleRate)
+      .Attr<PropertyFixedListDesignAttribute>()
+      .Attr<PropertyListDesignValueAttribute>("22050")
+      .Attr<PropertyListDesignValueAttribute>("44100")
+      .Attr<PropertyListDesignValueAttribute>("48000")
+      .Attr<PropertyListDesignValueAttribute>("96000");
+  Property("SampleCount", &TSignalGenerator::GetSampleCount, &TSignalGenerator::SetSampleCount)
+      .Default(Int64(0))
+      .Stored(&TSignalGenerator::IsSampleCountStored);
+  Property("Enabled", &TSignalGenerator::GetEnabled, &TSignalGenerator::SetEnabled).Default(true);
+  Property("NoiseSeed", &TSignalGenerator::GetNoiseSeed, &TSignalGenerator::SetNoiseSeed)
+      .Default(1)
+      .Attr<HiddenDesignAttribute>();
+  Property("OnStart", &TSignalGenerator::GetOnStart, &TSignalGenerator::SetOnStart);
+  Public();
+  Method("Start", &TSignalGenerator::Start);
+  Method("Advance", &TSignalGenerator::Advance, {"ACount"});
+  Method("ValueAt", &TSignalGenerator::ValueAt, {"AIndex"});
+  Protected();
+  Property("Running", &TSignalGenerator::GetRunning);
+  Private();
+  Property("StartCount", &TSignalGenerator::GetStartCount);
+}
+
+namespace {
+const TSignalPaletteRegistration GeneratorRegistration(TSignalGenerator::ClassInfo());
+
+// Repeatable noise in -1..1: one mixing step of a 64-bit hash over the seed and the index.
+Double NoiseAt(Integer ASeed, Int64 AIndex) {
+  UInt64 x = (UInt64(std::uint32_t(ASeed)) << 32) ^ UInt64(AIndex);
+  x += 0x9E3779B97F4A7C15ull;
+  x = (x ^ (x >> 30)) * 0xBF58476D1CE4E5B9ull;
+  x = (x ^ (x >> 27)) * 0x94D049BB133111EBull;
+  x ^= x >> 31;
+  return Double(x >> 11) / Double(UInt64(1) << 53) * 2 - 1;
+}
+} // namespace
+
+void TSignalGenerator::SetFrequency(Double AValue) {
+  if (!(AValue >= 0)) throw EConvertError("Frequency must not be negative: " + FloatToStr(Extended(AValue)));
+  FFrequency = AValue;
+}
+
+void TSignalGenerator::Start() {
+  FSampleCount = 0;
+  ++FStartCount;
+  if (FOnStart) FOnStart(this);
+}
+
+void TSignalGenerator::Advance(Cardinal ACount) {
+  if (FEnabled) FSampleCount += ACount;
+}
+
+Double TSignalGenerator::ValueAt(Int64 AIndex) const {
+  if (!FEnabled || FSampleRate == 0) return 0;
+  const Double cycles = FFrequency * Double(AIndex) / FSampleRate + FPhase / 360.0;
+  const Double t = cycles - std::floor(cycles); // where in its period the sample lies
+  switch (FWaveform) {
+  case wfSine: return FAmplitude * std::sin(2 * std::numbers::pi * t);
+  case wfSquare: return t < 0.5 ? FAmplitude : -FAmplitude;
+  case wfTriangle: return FAmplitude * (t < 0.5 ? 4 * t - 1 : 3 - 4 * t);
+  case wfSawtooth: return FAmplitude * (2 * t - 1);
+  case wfNoise: return FAmplitude * NoiseAt(FNoiseSeed, AIndex);
+  }
+  return 0;
+}
+
+} // namespace Tarvo

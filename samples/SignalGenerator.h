@@ -1,0 +1,70 @@
+#pragma once
+// A periodic signal: a waveform at a frequency, read sample by sample.
+
+#include "runtime/Component.h"
+#include "runtime/Events.h"
+#include "samples/SignalSource.h"
+
+namespace Tarvo {
+
+TARVO_ENUM(TWaveform, wfSine, wfSquare, wfTriangle, wfSawtooth, wfNoise)
+
+class TSignalGenerator : public TImplements<TComponent, ISignalSource> {
+  TARVO_CLASS(TSignalGenerator, TImplements<TComponent, ISignalSource>)
+
+public:
+  static constexpr Double DefaultFrequency = 440.0;
+  static constexpr Cardinal DefaultSampleRate = 48000;
+
+  explicit TSignalGenerator(TComponent* AOwner) : TImplements(AOwner) {}
+
+  TWaveform GetWaveform() const { return FWaveform; }
+  void SetWaveform(TWaveform AValue) { FWaveform = AValue; }
+  Double GetFrequency() const { return FFrequency; }
+  // A negative frequency (or no number at all) is refused with EConvertError.
+  void SetFrequency(Double AValue);
+  Double GetAmplitude() const { return FAmplitude; }
+  void SetAmplitude(Double AValue) { FAmplitude = AValue; }
+  Double GetPeakToPeak() const { return 2 * FAmplitude; }
+  // In degrees.
+  Single GetPhase() const { return FPhase; }
+  void SetPhase(Single AValue) { FPhase = AValue; }
+  Cardinal GetSampleRate() const override { return FSampleRate; }
+  void SetSampleRate(Cardinal AValue) { FSampleRate = AValue; }
+  Int64 GetSampleCount() const { return FSampleCount; }
+  void SetSampleCount(Int64 AValue) { FSampleCount = AValue; }
+  // A disabled generator starts from zero, so its count is not worth keeping.
+  bool IsSampleCountStored() const { return FEnabled; }
+  Boolean GetEnabled() const { return FEnabled; }
+  void SetEnabled(Boolean AValue) { FEnabled = AValue; }
+  Integer GetNoiseSeed() const { return FNoiseSeed; }
+  void SetNoiseSeed(Integer AValue) { FNoiseSeed = AValue; }
+  const TNotifyEvent& GetOnStart() const { return FOnStart; }
+  void SetOnStart(const TNotifyEvent& AValue) { FOnStart = AValue; }
+
+  // Restarts the count and tells OnStart.
+  void Start();
+  // Counts samples produced; a disabled generator produces none.
+  void Advance(Cardinal ACount);
+  // The sample at AIndex; silence while disabled.
+  Double ValueAt(Int64 AIndex) const override;
+
+  // Members the designer sees as protected and private ones; their reflection visibility is
+  // given by the member table.
+  Boolean GetRunning() const { return FSampleCount > 0; }
+  Integer GetStartCount() const { return FStartCount; }
+
+private:
+  TWaveform FWaveform = wfSine;
+  Double FFrequency = DefaultFrequency;
+  Double FAmplitude = 1.0;
+  Single FPhase = 0;
+  Cardinal FSampleRate = DefaultSampleRate;
+  Int64 FSampleCount = 0;
+  Boolean FEnabled = true;
+  Integer FNoiseSeed = 1;
+  TNotifyEvent FOnStart;
+  Integer FStartCount = 0;
+};
+
+} // namespace Tarvo

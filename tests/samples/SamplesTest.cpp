@@ -1,0 +1,263 @@
+// The sample module as a host sees it: loaded from its file, its classes found by name and used
+// through the reflection only.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "design/reflection/DesignComponents.h"
+#include "design/reflection/TypeInfo.h"
+#include "rtl/Module.h"
+#include "runtime/Component.h"
+#include "runtime/Events.h"
+#include "runtime/LockItem.h"
+
+namespace Tarvo {
+namespace {
+
+class SamplesTest : public ::testing::Test {
+protected:
+  void SetUp() override { FModule = LoadModule(TARVO_SAMPLES_MODULE_PATH); }
+  // The module's objects go before the module does.
+  void TearDown() override {
+    FRoot.reset();
+    if (FModule) UnloadModule(FModule);
+  }
+
+  TComponent* Create(const char* AClassName) {
+    const TClass found = FindClass(AClassName);
+    if (!found) throw Exception(String("no class ") + AClassName);
+    return TComponentClass(found).Create(FRoot.get());
+  }
+
+  static TRef<IMemberInfo> AnyMember(TObject* AObject, const String& AName) {
+    for (const TRef<IMemberInfo>& member : TRttiObjectHelper::TypeInfo(AObject, true)->GetAllMembers())
+      if (member->GetName() == AName) return member;
+    return nullptr;
+  }
+  static TRef<ISinglePropertyInfo> Property(TObject* AObject, const String& AName) {
+    TRef<ISinglePropertyInfo> member;
+    TRttiObjectHelper::TypeInfo(AObject, true)->FindSinglePropertyMember(AName, member);
+    return member;
+  }
+  static TValue Read(TObject* AObject, const String& AName) { return Property(AObject, AName)->GetValue(AObject); }
+  static TValue Invoke(TObject* AObject, const String& AName, const std::vector<TValue>& AArguments = {}) {
+    return QueryAs<IMethodInfo>(AnyMember(AObject, AName))->Invoke(AObject, AArguments);
+  }
+
+  static bool Registered(TClass AClass) { return std::ranges::count(GetRegisteredComponents()->ToArray(), AClass) == 1; }
+
+  TModule* FModule = nullptr;
+  TOwnedObject<TComponent> FRoot{Construct<TComponent>(nullptr)};
+};
+
+TEST_F(SamplesTest, TheModuleRegistersItsClassesOnItsPageAndTakesThemAlongWhenItUnloads) {
+  const char* names[] = {"TSignalGenerator", "TSignalFilter", "TSignalScope"};
+  for (const char* name : names) {
+    const TClass found = FindClass(name);
+    ASSERT_NE(found, nullptr) << name;
+    EXPECT_EQ(found->Module(), FModule) << name;
+    EXPECT_TRUE(Registered(found)) << name;
+    EXPECT_EQ(GetComponentPage(found), "Signal") << name;
+  }
+  EXPECT_TRUE(FindClass("TSignalScope")->InheritsFrom(FindClass("TWinControl")));
+
+  UnloadModule(std::exchange(FModule, nullptr));
+  for (const char* name : names) EXPECT_EQ(FindClass(name), nullptr) << name;
+  for (const TClass registered : GetRegisteredComponents()->ToArray()) EXPECT_NE(GetComponentPage(registered), "Signal");
+}
+
+struct TMemberRow {
+  const char* ClassName;
+  const char* Member;
+  TTypeKind Kind;
+  const char* TypeName;
+  const char* Text; // of a new instance, which holds the declared default
+};
+
+TEST_F(SamplesTest, PublishedMembersHaveTheirTypesAndStartAtTheirDefaults) {
+  const TMemberRow rows[] = {
+      {"TSignalGenerator", "Waveform", tkEnumeration, "TWaveform", "wfSine"},
+      {"TSignalGenerator", "Frequency", tkFloat, "Double", "440"},
+      {"TSignalGenerator", "Phase", tkFloat, "Single", "0"},
+      {"TSignalGenerator", "SampleRate", tkInteger, "Cardinal", "48000"},
+      {"TSignalGenerator", "SampleCount", tkInt64, "Int64", "0"},
+      {"TSignalGenerator", "Enabled", tkEnumeration, "Boolean", "True"},
+      {"TSignalFilter", "Options", tkSet, "TFilterOptions", "[]"},
+      {"TSignalFilter", "Order", tkInteger, "SmallInt", "1"},
+      {"TSignalFilter", "Decimation", tkInteger, "Byte", "1"},
+      {"TSignalFilter", "Latency", tkInteger, "Word", "0"},
+      {"TSignalFilter", "GainDb", tkInteger, "ShortInt", "0"},
+      {"TSignalFilter", "Separator", tkChar, "AnsiChar", ","},
+      {"TSignalFilter", "Symbol", tkWChar, "WideChar", "\u03BB"},
+      {"TSignalFilter", "Description", tkUString, "string", ""},
+      {"TSignalFilter", "Units", tkLString, "AnsiString", ""},
+      {"TSignalFilter", "Caption", tkWString, "WideString", ""},
+      {"TSignalFilter", "Code", tkString, "ShortString", ""},
+      {"TSignalFilter", "Designed", tkFloat, "TDate", "1899-12-30"},
+      {"TSignalFilter", "WarmUp", tkFloat, "TTime", "00:00:00"},
+      {"TSignalFilter", "UserData", tkVariant, "Variant", ""},
+      {"TSignalFilter", "Input", tkClass, "TSignalGenerator", "nil"},
+      {"TSignalScope", "Source", tkInterface, "ISignalSource", "nil"},
+      {"TSignalScope", "TraceColor", tkInteger, "TColor", "65280"},
+  };
+  for (const TMemberRow& row : rows) {
+    SCOPED_TRACE(String(row.ClassName) + "." + row.Member);
+    TComponent* instance = Create(row.ClassName);
+    const TRef<ISinglePropertyInfo> member = Property(instance, row.Member);
+    ASSERT_TRUE(member);
+    EXPECT_EQ(member->GetVisibility(), mvPublished);
+    EXPECT_EQ(member->GetTypeInfo()->GetTypeKind(), row.Kind);
+    EXPECT_EQ(member->GetTypeInfo()->GetName(), row.TypeName);
+    EXPECT_EQ(member->GetValue(instance).ToString(), row.Text);
+    EXPECT_TRUE(member->GetIsDefault(instance, false));
+  }
+}
+
+TEST_F(SamplesTest, ClassValuedMembersHoldTheirOwnObjectsAndAnEventStartsEmpty) {
+  TComponent* filter = Create("TSignalFilter");
+  TObject* response = Read(filter, "Response").AsObject();
+  ASSERT_NE(response, nullptr);
+  EXPECT_STREQ(response->ClassName(), "TFilterResponse");
+  EXPECT_EQ(Read(response, "Attenuation").ToString(), "60");
+  EXPECT_STREQ(Read(filter, "Font").AsObject()->ClassName(), "TFont");
+
+  TComponent* generator = Create("TSignalGenerator");
+  const TValue onStart = Read(generator, "OnStart");
+  EXPECT_EQ(onStart.GetTypeInfo(), &TypeInfo_TNotifyEvent);
+  EXPECT_FALSE(onStart.AsType<TNotifyEvent>());
+}
+
+struct TAttributeRow {
+  const char* ClassName;
+  const char* Member;
+  TClass Attribute;
+};
+
+TEST_F(SamplesTest, MembersCarryTheAttributesThatSteerTheirRows) {
+  const TAttributeRow rows[] = {
+      {"TSignalGenerator", "Frequency", DesignRangeAttribute::ClassInfo()},
+      {"TSignalGenerator", "Amplitude", RefreshPropertiesAttribute::ClassInfo()},
+      {"TSignalGenerator", "Phase", NameAttribute::ClassInfo()},
+      {"TSignalGenerator", "SampleRate", PropertyFixedListDesignAttribute::ClassInfo()},
+      {"TSignalGenerator", "SampleRate", PropertyListDesignValueAttribute::ClassInfo()},
+      {"TSignalGenerator", "NoiseSeed", HiddenDesignAttribute::ClassInfo()},
+      {"TSignalFilter", "Description", MultiLineAttribute::ClassInfo()},
+      {"TSignalFilter", "Order", MinValueAttribute::ClassInfo()},
+      {"TSignalFilter", "Order", MaxValueAttribute::ClassInfo()},
+      {"TSignalFilter", "Decimation", MinValueAttribute::ClassInfo()},
+      {"TSignalFilter", "Decimation", MaxValueAttribute::ClassInfo()},
+  };
+  for (const TAttributeRow& row : rows) {
+    TComponent* instance = Create(row.ClassName);
+    EXPECT_TRUE(Property(instance, row.Member)->HasCustomAttribute(row.Attribute, true))
+        << row.ClassName << "." << row.Member << " lacks " << row.Attribute->ClassName();
+  }
+
+  TComponent* generator = Create("TSignalGenerator");
+  TCustomAttribute* attribute = nullptr;
+  ASSERT_TRUE(Property(generator, "Phase")->GetCustomAttribute(NameAttribute::ClassInfo(), true, attribute));
+  EXPECT_EQ(static_cast<NameAttribute*>(attribute)->Name(), "Phase (degrees)");
+  EXPECT_EQ(Property(generator, "SampleRate")->GetCustomAttributes(PropertyListDesignValueAttribute::ClassInfo())->GetCount(), 4);
+  TComponent* filter = Create("TSignalFilter");
+  ASSERT_TRUE(Property(filter, "Order")->GetCustomAttribute(MaxValueAttribute::ClassInfo(), true, attribute));
+  EXPECT_EQ(static_cast<MaxValueAttribute*>(attribute)->Value().AsInteger(), 4);
+}
+
+TEST_F(SamplesTest, HiddenVisibilitiesAndMethodsAreSeenWithTheirKinds) {
+  TComponent* generator = Create("TSignalGenerator");
+  EXPECT_EQ(AnyMember(generator, "Running")->GetVisibility(), mvProtected);
+  EXPECT_EQ(AnyMember(generator, "StartCount")->GetVisibility(), mvPrivate);
+  for (const TRef<IMemberInfo>& published : TRttiObjectHelper::TypeInfo(generator, true)->GetMembers(mvsPublished))
+    EXPECT_TRUE(published->GetName() != "Running" && published->GetName() != "StartCount");
+
+  const TRef<IMethodInfo> valueAt = QueryAs<IMethodInfo>(AnyMember(generator, "ValueAt"));
+  ASSERT_TRUE(valueAt);
+  EXPECT_EQ(valueAt->GetVisibility(), mvPublic);
+  EXPECT_EQ(valueAt->GetMethodKind(), mkFunction);
+  ASSERT_TRUE(valueAt->GetHasExtendedInfo());
+  ASSERT_EQ(valueAt->GetParameters()->GetCount(), 1);
+  EXPECT_EQ(valueAt->GetParameters()->GetItem(0)->GetParameterText(), "AIndex: Int64");
+  EXPECT_EQ(valueAt->GetTypeInfo()->GetName(), "Double");
+  EXPECT_EQ(QueryAs<IMethodInfo>(AnyMember(generator, "Start"))->GetMethodKind(), mkProcedure);
+}
+
+TEST_F(SamplesTest, MethodsRunThroughTheReflection) {
+  TComponent* generator = Create("TSignalGenerator");
+  Property(generator, "Waveform")->SetFromString(generator, "wfSquare");
+  Property(generator, "Amplitude")->SetFromString(generator, "2.5");
+  EXPECT_EQ(Invoke(generator, "ValueAt", {TValue(Int64(0))}).AsExtended(), 2.5);
+  // Half a period of 440 Hz at 48 kHz is past 54 samples.
+  EXPECT_EQ(Invoke(generator, "ValueAt", {TValue(Int64(60))}).AsExtended(), -2.5);
+
+  Invoke(generator, "Advance", {TValue(Integer(100))});
+  EXPECT_EQ(Read(generator, "SampleCount").AsInt64(), 100);
+  EXPECT_TRUE(Read(generator, "Running").AsBoolean());
+
+  std::vector<TObject*> senders;
+  Property(generator, "OnStart")->SetValue(generator, TValue::From(TNotifyEvent([&](TObject* ASender) { senders.push_back(ASender); })));
+  Invoke(generator, "Start");
+  EXPECT_EQ(senders, std::vector<TObject*>{generator});
+  EXPECT_EQ(Read(generator, "SampleCount").AsInt64(), 0);
+  EXPECT_EQ(Read(generator, "StartCount").AsInteger(), 1);
+}
+
+TEST_F(SamplesTest, TheFrequencySetterRefusesANegativeValueThroughSetValue) {
+  TComponent* generator = Create("TSignalGenerator");
+  const TRef<ISinglePropertyInfo> frequency = Property(generator, "Frequency");
+  try {
+    frequency->SetValue(generator, TValue(-5.0));
+    FAIL() << "a negative frequency was taken";
+  } catch (const EConvertError& e) {
+    EXPECT_EQ(e.Message(), "Frequency must not be negative: -5");
+  }
+  EXPECT_THROW(frequency->SetFromString(generator, "-0.5"), EConvertError);
+  EXPECT_EQ(frequency->GetValue(generator).ToString(), "440");
+  frequency->SetValue(generator, TValue(1000.0));
+  EXPECT_EQ(frequency->GetValue(generator).ToString(), "1000");
+}
+
+TEST_F(SamplesTest, TheSampleCountIsStoredOnlyByAnEnabledGenerator) {
+  TComponent* generator = Create("TSignalGenerator");
+  const TRef<ISinglePropertyInfo> count = Property(generator, "SampleCount");
+  count->SetValue(generator, TValue(Int64(123)));
+  EXPECT_TRUE(count->GetHasStored(generator));
+  EXPECT_TRUE(count->GetIsStored(generator));
+  EXPECT_FALSE(count->GetIsDefault(generator, true));
+
+  Property(generator, "Enabled")->SetFromString(generator, "False");
+  EXPECT_FALSE(count->GetIsStored(generator));
+  EXPECT_TRUE(count->GetIsDefault(generator, true));
+  EXPECT_FALSE(count->GetIsDefault(generator, false));
+}
+
+TEST_F(SamplesTest, TheScopeHearsOfWritesAsALockItemAndOthersDoNot) {
+  TComponent* scope = Create("TSignalScope");
+  TRef<ILockItem> lockItem;
+  EXPECT_TRUE(Supports(scope, lockItem));
+  EXPECT_TRUE(NotifyLockItem(scope));
+  EXPECT_TRUE(NotifyLockItem(scope));
+  EXPECT_EQ(Read(scope, "RedrawCount").AsInteger(), 2);
+  EXPECT_FALSE(NotifyLockItem(Create("TSignalGenerator")));
+}
+
+TEST_F(SamplesTest, ReferencesToOtherComponentsAreClearedWhenTheyGo) {
+  TComponent* generator = Create("TSignalGenerator");
+  TComponent* filter = Create("TSignalFilter");
+  TComponent* scope = Create("TSignalScope");
+  Property(filter, "Input")->SetValue(filter, TValue(generator));
+  Property(filter, "Options")->SetFromString(filter, "[foBypass]");
+  Property(scope, "Source")->SetValue(scope, TValue(filter));
+  EXPECT_EQ(Read(filter, "Input").AsObject(), generator);
+  EXPECT_EQ(ObjectOf(Read(scope, "Source").AsInterface()), filter);
+  // A bypassed filter passes the sine through: its peak over a period is the amplitude.
+  EXPECT_NEAR(Invoke(scope, "Peak", {TValue(Integer(110))}).AsExtended(), 1.0, 1e-3);
+
+  TObject::Free(generator);
+  EXPECT_EQ(Read(filter, "Input").AsObject(), nullptr);
+  EXPECT_EQ(Invoke(scope, "Peak", {TValue(Integer(10))}).AsExtended(), 0);
+  TObject::Free(filter);
+  EXPECT_FALSE(Read(scope, "Source").AsInterface());
+}
+
+} // namespace
+} // namespace Tarvo
