@@ -1,0 +1,271 @@
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <fstream>
+
+#include <nlohmann/json.hpp>
+
+#include "design/reflection/Publish.h"
+#include "runtime/Controls.h"
+#include "runtime/DesignFile.h"
+#include "runtime/Events.h"
+#include "runtime/Shape.h"
+
+namespace Tarvo {
+
+TARVO_ENUM(TDesignFileTestMode, dmIdle, dmRun, dmHold)
+TARVO_IMPLEMENT_ENUM(TDesignFileTestMode)
+
+class TDesignFileTestPart : public TPersistent {
+  TARVO_CLASS(TDesignFileTestPart, TPersistent)
+public:
+  Integer FLevel = 5;
+};
+TARVO_IMPLEMENT_CLASS(TDesignFileTestPart)
+TARVO_PUBLISH(TDesignFileTestPart) { Property("Level", &TDesignFileTestPart::FLevel, &TDesignFileTestPart::FLevel).Default(5); }
+
+class TDesignFileTestGauge : public TComponent {
+  TARVO_CLASS(TDesignFileTestGauge, TComponent)
+public:
+  explicit TDesignFileTestGauge(TComponent* AOwner) : TComponent(AOwner), FPart(Construct<TDesignFileTestPart>()) {}
+
+  Double GetRatio() const { return FRatio; }
+  void SetRatio(Double AValue) {
+    if (AValue < 0) throw EConvertError("Ratio must not be negative");
+    FRatio = AValue;
+  }
+  TDesignFileTestGauge* GetPeer() const { return FPeer; }
+  void SetPeer(TDesignFileTestGauge* AValue) { SetComponentReference(FPeer, AValue); }
+  TDesignFileTestPart* GetPart() const { return FPart.get(); }
+
+  Integer FValue = 0;
+  String FCaption;
+  TDesignFileTestMode FMode = dmIdle;
+  Double FRatio = 1;
+  TDesignFileTestGauge* FPeer = nullptr;
+  TOwnedObject<TDesignFileTestPart> FPart;
+  TDesignFileTestPart* FSpare = nullptr;
+  Integer FScratch = 0;
+  TNotifyEvent FOnChange;
+  bool FLoadingSeen = false;
+
+protected:
+  void Notification(TComponent* AComponent, TOperation AOperation) override {
+    inherited::Notification(AComponent, AOperation);
+    if (AOperation == opRemove && AComponent == FPeer) FPeer = nullptr;
+  }
+  void Loaded() override {
+    FLoadingSeen = true;
+    inherited::Loaded();
+  }
+};
+TARVO_IMPLEMENT_CLASS(TDesignFileTestGauge)
+TARVO_PUBLISH(TDesignFileTestGauge) {
+  Property("Value", &TDesignFileTestGauge::FValue, &TDesignFileTestGauge::FValue).Default(0);
+  Property("Caption", &TDesignFileTestGauge::FCaption, &TDesignFileTestGauge::FCaption);
+  Property("Mode", &TDesignFileTestGauge::FMode, &TDesignFileTestGauge::FMode).Default(dmIdle);
+  Property("Ratio", &TDesignFileTestGauge::GetRatio, &TDesignFileTestGauge::SetRatio).Default(1.0);
+  Property("Peer", &TDesignFileTestGauge::GetPeer, &TDesignFileTestGauge::SetPeer);
+  Property("Part", &TDesignFileTestGauge::GetPart);
+  Property("Spare", &TDesignFileTestGauge::FSpare);
+  Property("Scratch", &TDesignFileTestGauge::FScratch, &TDesignFileTestGauge::FScratch).Stored(false);
+  Property("OnChange", &TDesignFileTestGauge::FOnChange, &TDesignFileTestGauge::FOnChange);
+  Private();
+  Property("Secret", &TDesignFileTestGauge::FValue, &TDesignFileTestGauge::FValue);
+}
+
+namespace {
+
+using TJson = nlohmann::ordered_json;
+
+TDesignFileTestGauge* Gauge(TComponent* ARoot, const char* AName) {
+  return dynamic_cast<TDesignFileTestGauge*>(ARoot->FindComponent(AName));
+}
+
+class DesignFileTest : public ::testing::Test {
+protected:
+  TOwnedObject<TComponent> FRoot{Construct<TComponent>(nullptr)};
+};
+
+TEST_F(DesignFileTest, ComponentsAreMadeInFileOrderWithTheirPropertiesAndLoadedAfterwards) {
+  const std::vector<TComponent*> made = ReadDesign(R"({"components": [
+    {"class": "TDesignFileTestGauge", "name": "Gauge1",
+     "properties": {"Value": "42", "Caption": "first\nsecond", "Mode": "dmHold", "Ratio": "0.25", "Part.Level": "9"}},
+    {"class": "TDesignFileTestGauge", "name": "Gauge2"}]})",
+                                                   FRoot.get());
+  ASSERT_EQ(made.size(), 2u);
+  EXPECT_EQ(made[0]->GetName(), "Gauge1");
+  EXPECT_EQ(made[1]->GetName(), "Gauge2");
+  EXPECT_EQ(FRoot->ComponentCount(), 2);
+
+  const TDesignFileTestGauge* gauge = Gauge(FRoot.get(), "Gauge1");
+  EXPECT_EQ(gauge->FValue, 42);
+  EXPECT_EQ(gauge->FCaption, "first\nsecond");
+  EXPECT_EQ(gauge->FMode, dmHold);
+  EXPECT_EQ(gauge->FRatio, 0.25);
+  EXPECT_EQ(gauge->FPart->FLevel, 9);
+  for (TComponent* component : made) {
+    EXPECT_TRUE(static_cast<TDesignFileTestGauge*>(component)->FLoadingSeen);
+    EXPECT_FALSE(component->ComponentState().Contains(csLoading));
+  }
+}
+
+TEST_F(DesignFileTest, ReferencesNameComponentsAnywhereInTheDesign) {
+  ReadDesign(R"({"components": [
+    {"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Peer": "Gauge2"}},
+    {"class": "TDesignFileTestGauge", "name": "Gauge2", "properties": {"Peer": "Gauge1"}},
+    {"class": "TDesignFileTestGauge", "name": "Gauge3", "properties": {"Peer": ""}}]})",
+             FRoot.get());
+  EXPECT_EQ(Gauge(FRoot.get(), "Gauge1")->GetPeer(), Gauge(FRoot.get(), "Gauge2"));
+  EXPECT_EQ(Gauge(FRoot.get(), "Gauge2")->GetPeer(), Gauge(FRoot.get(), "Gauge1"));
+  EXPECT_EQ(Gauge(FRoot.get(), "Gauge3")->GetPeer(), nullptr);
+}
+
+TEST_F(DesignFileTest, ChildrenAreOwnedByTheRootAndParentedOnlyToAWindowControl) {
+  ReadDesign(R"({"components": [
+    {"class": "TWinControl", "name": "Panel1", "children": [
+      {"class": "TShape", "name": "Shape1", "properties": {"Pen.Width": "3"}},
+      {"class": "TDesignFileTestGauge", "name": "Gauge1"}]},
+    {"class": "TDesignFileTestGauge", "name": "Gauge2", "children": [{"class": "TShape", "name": "Shape2"}]}]})",
+             FRoot.get());
+  ASSERT_EQ(FRoot->ComponentCount(), 5);
+  auto* panel = dynamic_cast<TWinControl*>(FRoot->FindComponent("Panel1"));
+  auto* shape1 = dynamic_cast<TShape*>(FRoot->FindComponent("Shape1"));
+  ASSERT_TRUE(panel && shape1);
+  EXPECT_EQ(shape1->GetParent(), panel);
+  EXPECT_EQ(shape1->GetPen()->GetWidth(), 3);
+  EXPECT_EQ(panel->ControlCount(), 1);
+  EXPECT_EQ(dynamic_cast<TShape*>(FRoot->FindComponent("Shape2"))->GetParent(), nullptr);
+}
+
+TEST(DesignFileRootTest, TopLevelControlsOfAWindowRootAreParentedToItAndSeeItsDesigningState) {
+  TOwnedObject<TWinControl> root(Construct<TWinControl>(nullptr));
+  TComponentHelper::SetIntDesigning(root.get(), true, false);
+  const std::vector<TComponent*> made =
+      ReadDesign(R"({"components": [{"class": "TShape", "name": "Shape1"}, {"class": "TDesignFileTestGauge", "name": "Gauge1"}]})",
+                 root.get());
+  EXPECT_EQ(static_cast<TShape*>(made[0])->GetParent(), root.get());
+  EXPECT_TRUE(made[1]->ComponentState().Contains(csDesigning));
+}
+
+struct TErrorRow {
+  const char* Design;
+  const char* Message;
+};
+
+TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
+  const TErrorRow rows[] = {
+      {R"({"components": [{"class": "TFoo", "name": "Foo1"}]})", "Unknown class 'TFoo' for component 'Foo1'"},
+      {R"({"components": [{"class": "TFont", "name": "Font1"}]})", "Class 'TFont' of component 'Font1' is no component class"},
+      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Colour": "1"}}]})",
+       "Unknown property 'Colour' of component 'Gauge1' (TDesignFileTestGauge)"},
+      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Secret": "1"}}]})",
+       "Unknown property 'Secret' of component 'Gauge1' (TDesignFileTestGauge)"},
+      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Value.Low": "1"}}]})",
+       "Unknown property 'Value.Low' of component 'Gauge1' (TDesignFileTestGauge)"},
+      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Part.Size": "1"}}]})",
+       "Unknown property 'Part.Size' of component 'Gauge1' (TDesignFileTestGauge)"},
+      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Spare.Level": "1"}}]})",
+       "Cannot reach 'Spare.Level' of component 'Gauge1': 'Spare' is nil"},
+      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Value": "abc"}}]})",
+       "Invalid value 'abc' for 'Value' of component 'Gauge1': 'abc' is not a valid value for Value"},
+      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Mode": "dmFast"}}]})",
+       "Invalid value 'dmFast' for 'Mode' of component 'Gauge1'"},
+      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Ratio": "-1"}}]})",
+       "Invalid value '-1' for 'Ratio' of component 'Gauge1': Ratio must not be negative"},
+      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Value": 5}}]})",
+       "The value of 'Value' of component 'Gauge1' must be a text"},
+      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Peer": "Nobody"}}]})",
+       "Unknown component 'Nobody' for 'Peer' of component 'Gauge1'"},
+      {R"({"components": [{"class": "TShape", "name": "Shape1"},
+                          {"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Peer": "Shape1"}}]})",
+       "Component 'Shape1' is no TDesignFileTestGauge for 'Peer' of component 'Gauge1'"},
+      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1"},
+                          {"class": "TWinControl", "name": "Panel1", "children": [{"class": "TShape", "name": "gauge1"}]}]})",
+       "Duplicate component name 'gauge1' at components[1].children[0]"},
+      {R"({"components": [{"class": "TShape", "name": "1st"}]})", "Invalid component name '1st' at components[0]"},
+      {R"({"components": [{"name": "Shape1"}]})", "components[0]: \"class\" must be given as a text"},
+      {R"({"components": [{"class": "TShape", "name": "Shape1", "colour": "red"}]})", "components[0]: unknown key \"colour\""},
+      {R"({"components": {"class": "TShape"}})", "components must be a list of components"},
+      {R"({"parts": []})", "The design: unknown key \"parts\""},
+      {R"({})", "The design has no \"components\""},
+      {R"({"components": [}")", "The design is no valid JSON: parse error at line 1, column 17"},
+  };
+  for (const TErrorRow& row : rows) {
+    try {
+      ReadDesign(row.Design, FRoot.get());
+      ADD_FAILURE() << "read without an error: " << row.Design;
+    } catch (const EDesignFileError& e) {
+      EXPECT_EQ(e.Message().substr(0, std::strlen(row.Message)), row.Message) << row.Design;
+    }
+    EXPECT_EQ(FRoot->ComponentCount(), 0) << row.Design;
+  }
+}
+
+TEST_F(DesignFileTest, AFileThatCannotBeReadIsNamed) {
+  EXPECT_THROW(
+      try { ReadDesignFile("/nonexistent/design.json", FRoot.get()); } catch (const EDesignFileError& e) {
+        EXPECT_EQ(e.Message(), "Cannot open design file '/nonexistent/design.json'");
+        throw;
+      },
+      EDesignFileError);
+
+  const String path = ::testing::TempDir() + "design_file_test.json";
+  std::ofstream(path) << R"({"components": [{"class": "TFoo", "name": "Foo1"}]})";
+  try {
+    ReadDesignFile(path, FRoot.get());
+    ADD_FAILURE() << "read a design with an unknown class";
+  } catch (const EDesignFileError& e) {
+    EXPECT_EQ(e.Message(), path + ": Unknown class 'TFoo' for component 'Foo1'");
+  }
+  std::remove(path.c_str());
+}
+
+TEST_F(DesignFileTest, WritingKeepsStoredNonDefaultMembersAsTextAndReferencesByName) {
+  auto* gauge = Construct<TDesignFileTestGauge>(FRoot.get());
+  gauge->SetName("Gauge1");
+  auto* peer = Construct<TDesignFileTestGauge>(FRoot.get());
+  peer->SetName("Gauge2");
+  gauge->FCaption = "a \"quoted\" text";
+  gauge->FMode = dmRun;
+  gauge->FPart->FLevel = 7;
+  gauge->FScratch = 99;               // not stored
+  gauge->FOnChange = [](TObject*) {}; // code, not data
+  gauge->SetPeer(peer);
+  auto* panel = Construct<TWinControl>(FRoot.get());
+  panel->SetName("Panel1");
+  auto* shape = Construct<TShape>(FRoot.get());
+  shape->SetName("Shape1");
+  shape->SetParent(panel);
+
+  const TJson expected = TJson::parse(R"({"components": [
+    {"class": "TDesignFileTestGauge", "name": "Gauge1",
+     "properties": {"Caption": "a \"quoted\" text", "Mode": "dmRun", "Peer": "Gauge2", "Part.Level": "7"}},
+    {"class": "TDesignFileTestGauge", "name": "Gauge2"},
+    {"class": "TWinControl", "name": "Panel1",
+     "properties": {"Left": "0", "Top": "0", "Width": "0", "Height": "0"},
+     "children": [{"class": "TShape", "name": "Shape1",
+                   "properties": {"Left": "0", "Top": "0", "Width": "65", "Height": "65"}}]}]})");
+  EXPECT_EQ(TJson::parse(WriteDesign(FRoot.get())), expected) << WriteDesign(FRoot.get());
+}
+
+TEST_F(DesignFileTest, AWrittenDesignReadsBackToTheSameDesign) {
+  ReadDesign(R"({"components": [
+    {"class": "TDesignFileTestGauge", "name": "Gauge1",
+     "properties": {"Value": "-3", "Caption": "line one\nline two", "Ratio": "0.125", "Peer": "Gauge2", "Part.Level": "0"}},
+    {"class": "TDesignFileTestGauge", "name": "Gauge2", "properties": {"Mode": "dmHold"}},
+    {"class": "TWinControl", "name": "Panel1", "properties": {"Width": "100", "Color": "255"}, "children": [
+      {"class": "TShape", "name": "Shape1", "properties": {"Shape": "stCircle", "Brush.Color": "65280", "Anchors": "[akRight]"}}]}]})",
+             FRoot.get());
+  const String written = WriteDesign(FRoot.get());
+
+  TOwnedObject<TComponent> copy(Construct<TComponent>(nullptr));
+  ReadDesign(written, copy.get());
+  EXPECT_EQ(WriteDesign(copy.get()), written);
+  EXPECT_EQ(Gauge(copy.get(), "Gauge1")->GetPeer(), Gauge(copy.get(), "Gauge2"));
+  EXPECT_EQ(Gauge(copy.get(), "Gauge1")->FPart->FLevel, 0);
+  EXPECT_EQ(dynamic_cast<TShape*>(copy->FindComponent("Shape1"))->GetParent(), copy->FindComponent("Panel1"));
+}
+
+} // namespace
+} // namespace Tarvo
