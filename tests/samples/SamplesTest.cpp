@@ -8,6 +8,8 @@
 #include "design/reflection/TypeInfo.h"
 #include "rtl/Module.h"
 #include "runtime/Component.h"
+#include "runtime/Controls.h"
+#include "runtime/DesignFile.h"
 #include "runtime/Events.h"
 #include "runtime/LockItem.h"
 
@@ -257,6 +259,80 @@ TEST_F(SamplesTest, ReferencesToOtherComponentsAreClearedWhenTheyGo) {
   EXPECT_EQ(Invoke(scope, "Peak", {TValue(Integer(10))}).AsExtended(), 0);
   TObject::Free(filter);
   EXPECT_FALSE(Read(scope, "Source").AsInterface());
+}
+
+// ---- The bundled design ----
+
+const String SampleDesign = TARVO_SAMPLES_DIR "/designs/sample.json";
+
+TEST_F(SamplesTest, TheBundledDesignReadsWithItsValuesReferencesAndChildren) {
+  const std::vector<TComponent*> made = ReadDesignFile(SampleDesign, FRoot.get());
+  ASSERT_EQ(made.size(), 6u);
+  TComponent* generator1 = FRoot->FindComponent("Generator1");
+  TComponent* generator2 = FRoot->FindComponent("Generator2");
+  TComponent* filter = FRoot->FindComponent("Filter1");
+  TComponent* scope = FRoot->FindComponent("Scope1");
+  ASSERT_TRUE(generator1 && generator2 && filter && scope);
+  EXPECT_EQ(generator1->ClassType(), generator2->ClassType());
+
+  EXPECT_EQ(Read(generator2, "Waveform").ToString(), "wfSquare");
+  EXPECT_EQ(Read(generator2, "SampleRate").AsInteger(), 44100);
+  EXPECT_EQ(Read(generator1, "Amplitude").AsExtended(), Extended(0.8));
+  EXPECT_EQ(Read(filter, "Options").ToString(), "[foInvert]");
+  EXPECT_EQ(Read(filter, "GainDb").AsInteger(), -6);
+  EXPECT_EQ(Read(filter, "Symbol").ToString(), "\u03A9");
+  EXPECT_EQ(Read(filter, "Description").AsString(), "Band-pass for the test tone.\nKeeps 1.2 to 2.5 kHz.");
+  EXPECT_EQ(Read(filter, "Designed").ToString(), "2024-03-01");
+  EXPECT_EQ(Read(filter, "Calibrated").ToString(), "2024-03-02 14:30:00");
+  EXPECT_EQ(Read(filter, "UserData").ToString(), "bench 7");
+  EXPECT_EQ(Read(filter, "Input").AsObject(), generator1);
+  EXPECT_EQ(Read(Read(filter, "Response").AsObject(), "Ripple").AsExtended(), Extended(0.25));
+  EXPECT_EQ(Read(Read(filter, "Font").AsObject(), "Size").AsInteger(), 10);
+  EXPECT_EQ(ObjectOf(Read(scope, "Source").AsInterface()), filter);
+
+  auto* window = dynamic_cast<TWinControl*>(scope);
+  ASSERT_NE(window, nullptr);
+  ASSERT_EQ(window->ControlCount(), 2);
+  EXPECT_EQ(window->Controls(0)->GetName(), "TriggerMark");
+  EXPECT_STREQ(window->Controls(1)->ClassName(), "TShape");
+  EXPECT_EQ(window->Controls(0)->Owner(), FRoot.get());
+}
+
+TEST_F(SamplesTest, TheBundledDesignRoundTripsThroughWritingAndReading) {
+  ReadDesignFile(SampleDesign, FRoot.get());
+  const String written = WriteDesign(FRoot.get());
+  // A disabled generator does not store its count.
+  EXPECT_EQ(written.find("\"SampleCount\": \"1200\""), String::npos);
+  EXPECT_NE(written.find("\"SampleCount\": \"4800\""), String::npos);
+
+  TOwnedObject<TComponent> copy(Construct<TComponent>(nullptr));
+  ReadDesign(written, copy.get());
+  EXPECT_EQ(WriteDesign(copy.get()), written);
+  EXPECT_EQ(Read(copy->FindComponent("Filter1"), "Input").AsObject(), copy->FindComponent("Generator1"));
+  EXPECT_EQ(Read(copy->FindComponent("Generator2"), "SampleCount").AsInt64(), 0);
+}
+
+TEST_F(SamplesTest, ARaisingSetterInADesignIsReportedWithItsComponent) {
+  try {
+    ReadDesign(R"({"components": [{"class": "TSignalGenerator", "name": "Generator1", "properties": {"Frequency": "-5"}}]})",
+               FRoot.get());
+    FAIL() << "a negative frequency was read";
+  } catch (const EDesignFileError& e) {
+    EXPECT_EQ(e.Message(), "Invalid value '-5' for 'Frequency' of component 'Generator1': Frequency must not be negative: -5");
+  }
+  EXPECT_EQ(FRoot->ComponentCount(), 0);
+}
+
+TEST_F(SamplesTest, AfterItsComponentsAreFreedTheModuleUnloadsAndItsClassesAreUnknownToDesigns) {
+  ReadDesignFile(SampleDesign, FRoot.get());
+  while (FRoot->ComponentCount() > 0) TObject::Free(FRoot->Components(FRoot->ComponentCount() - 1));
+  UnloadModule(std::exchange(FModule, nullptr));
+  try {
+    ReadDesignFile(SampleDesign, FRoot.get());
+    FAIL() << "the design read without its module";
+  } catch (const EDesignFileError& e) {
+    EXPECT_EQ(e.Message(), SampleDesign + ": Unknown class 'TSignalGenerator' for component 'Generator1'");
+  }
 }
 
 } // namespace
