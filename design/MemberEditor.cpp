@@ -1,5 +1,7 @@
 #include "design/MemberEditor.h"
 
+#include "design/SinglePropertyEditor.h"
+
 namespace Tarvo {
 
 TARVO_IMPLEMENT_CLASS(TMemberEditor)
@@ -60,8 +62,13 @@ TObject* TMemberEditor::GetValueForRootInstance(TObject* AObject) {
 
 TObject* TMemberEditor::GetOwnerObject() {
   if (FOwnerObject) return FOwnerObject;
-  if (FParentEditor) throw EInvalidCast(String("Invalid class typecast: the parent editor ") + FParentEditor->ClassName() +
-                                        " is no single property editor");
+  if (FParentEditor) {
+    if (!FParentEditor->Is<TSinglePropertyEditor>())
+      throw EInvalidCast(String("Invalid class typecast: the parent editor ") + FParentEditor->ClassName() +
+                         " is no single property editor");
+    const TRef<IArrayList<TValue>> values = static_cast<TSinglePropertyEditor*>(FParentEditor)->GetInstanceValues(nullptr);
+    return values->GetCount() > 0 ? values->GetItem(0).AsObject() : nullptr;
+  }
   const TRef<IObjectArrayList> selection = FDesigner->GetSelection();
   return selection->GetCount() > 0 ? selection->GetItem(0) : nullptr;
 }

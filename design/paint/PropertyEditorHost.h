@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+#include "design/SinglePropertyEditor.h"
 #include "platform/GXTypes.h"
 #include "rtl/InterfacedObject.h"
 
@@ -19,6 +20,13 @@ public:
   virtual TIGXRect GetBounds() = 0;
   // The editor is done: the host takes the place away with the control in it.
   virtual void CloseHosted() = 0;
+};
+
+// Implemented by an editor that shows a control of its own in a place the host gives.
+class IPropertyEditorHosted : public virtual IPropertyEditor {
+  TARVO_INTERFACE(IPropertyEditorHosted, IPropertyEditor, "{F23A51C1-676A-4ED7-B4CE-CA62BC82BDC5}")
+public:
+  virtual void ShowHosted(const TRef<IPropertyEditorHost>& AHost) = 0;
 };
 
 } // namespace Tarvo

@@ -1,0 +1,139 @@
+#pragma once
+// TSinglePropertyEditor: the base of every editor of one value property over a multi-selection.
+// It holds no value of its own: it reads the property from every selected object, turns the
+// values into the row's text and writes a new value to every object. Typed editors override the
+// conversions; which objects are touched, in which order, what counts as default and when the
+// view is reset are decided here for the whole grid.
+
+#include "design/MemberEditor.h"
+
+namespace Tarvo {
+
+class TSinglePropertyEditor;
+
+// Implemented by the host: redraw the row.
+class IRefreshMemberNotify : public virtual IInterface {
+  TARVO_INTERFACE(IRefreshMemberNotify, IInterface, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A66}")
+public:
+  virtual void RefreshMember() = 0;
+};
+
+using IValueArrayList = IArrayList<TValue>;
+
+class IPropertyEditor : public virtual IMemberEditor {
+  TARVO_INTERFACE(IPropertyEditor, IMemberEditor, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A65}")
+public:
+  // How the row shows in its parent's summary; AValue is filled also when the result is false.
+  virtual Boolean GetDisplayNested(String& AValue, const TRef<IObjectArrayList>& AObjectsList) = 0;
+  virtual TRef<IValueArrayList> GetInstanceValues(const TRef<IObjectArrayList>& AObjectsList) = 0;
+  virtual void SetInstanceValues(const TValue& AValue) = 0;
+  virtual void SetInstanceValue(TObject* AObject, const TValue& AValue) = 0;
+  virtual String GetDisplayValue(const TRef<IObjectArrayList>& AObjectsList) = 0;
+  virtual TRef<IStringArrayList> GetDisplayValues(const TRef<IObjectArrayList>& AObjectsList) = 0;
+  virtual TRef<IStringArrayList> GetStringValues(const TRef<IObjectArrayList>& AObjectsList) = 0;
+  virtual void SetStringValue(const String& AValue) = 0;
+  virtual Boolean GetIsAllDefault() = 0;
+  virtual TRef<IArrayList<Boolean>> GetIsDefaults(const TRef<IObjectArrayList>& AObjectsList) = 0;
+  virtual Boolean GetIsWriteOnly() = 0;
+  virtual Boolean GetHasDefault() = 0;
+  virtual TValue GetDefaultValue() = 0;
+  virtual String GetDefaultStringValue() = 0;
+  virtual Boolean GetAutoUpdate() = 0;
+  virtual void ResetValue() = 0;
+  virtual void AddRefreshNotify(const TRef<IRefreshMemberNotify>& ANotify) = 0;
+  virtual void RemoveRefreshNotify(const TRef<IRefreshMemberNotify>& ANotify) = 0;
+};
+
+// The editors a row expands into (ISubPropertyEditors). Its objects are plain lists of editors;
+// the interface adds no operation, it only names the list.
+class IPropertyEditors : public virtual IArrayList<TRef<IPropertyEditor>> {
+  TARVO_INTERFACE(IPropertyEditors, IArrayList<TRef<IPropertyEditor>>, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A67}")
+};
+
+// An editor that offers a list of values to pick from.
+class IPropertyEditorDropDownStringList : public virtual IInterface {
+  TARVO_INTERFACE(IPropertyEditorDropDownStringList, IInterface, "{00E16386-0F34-4CAE-9CFA-85AEC8707DD0}")
+public:
+  virtual TRef<IStringArrayList> GetStringListValues() = 0;
+};
+
+// Interfaces that attributes of the member make on demand (drop-down lists, the list dialog) are
+// to be answered by an override of QueryInterface; until then the editor answers as its base.
+class TSinglePropertyEditor : public TImplements<TMemberEditor, IPropertyEditor> {
+  TARVO_CLASS(TSinglePropertyEditor, TImplements<TMemberEditor, IPropertyEditor>)
+
+public:
+  // The one virtual constructor of the base; subclasses declare none and set up in InitCreate.
+  using TImplements::TImplements;
+
+  // Runs InitCreate of the class being built. A virtual call from a C++ constructor would not
+  // reach the subclass, so the setup runs here: the factory calls it right after the
+  // constructor, before anyone holds the object.
+  void AfterConstruction() override;
+
+  TRef<IArrayList<TIsDefaultByStrored>> GetIsDefaultsByStored(const TRef<IObjectArrayList>& AObjectsList) override;
+  // True at once when the editor class carries ReadOnlyAttribute; else the member decides.
+  Boolean GetIsReadOnly() override;
+
+  Boolean GetDisplayNested(String& AValue, const TRef<IObjectArrayList>& AObjectsList) override;
+  // One value a object, in object order; an empty value for a nil object.
+  TRef<IValueArrayList> GetInstanceValues(const TRef<IObjectArrayList>& AObjectsList) override;
+  // Writes to every object of GetSelection (not the root selection), then one Modified. A
+  // setter's exception passes through: objects written stay written, Modified is not called.
+  void SetInstanceValues(const TValue& AValue) override;
+  // An editor bound to an owner object ignores any other object, without notice.
+  void SetInstanceValue(TObject* AObject, const TValue& AValue) override;
+  TValue GetDefaultValue() override;
+  String GetDefaultStringValue() override { return GetDefaultValue().ToString(); }
+  // True for an empty selection.
+  Boolean GetIsAllDefault() override;
+  TRef<IArrayList<Boolean>> GetIsDefaults(const TRef<IObjectArrayList>& AObjectsList) override;
+  Boolean GetHasDefault() override;
+  Boolean GetIsWriteOnly() override;
+  virtual void Modified() { FDesigner->Modified(); }
+  virtual void BeginModify() { FDesigner->BeginModify(); }
+  virtual void EndModify() { FDesigner->EndModify(); }
+  // Applied anew for each object written; ranged editors clamp here.
+  virtual TValue ApplyConstraints(const TValue& AValue) { return AValue; }
+  // One text when all values agree, else all of them joined by ";".
+  String GetDisplayValue(const TRef<IObjectArrayList>& AObjectsList) override;
+  TRef<IStringArrayList> GetDisplayValues(const TRef<IObjectArrayList>& AObjectsList) override {
+    return GetStringValues(AObjectsList);
+  }
+  // The one place where a value turns into display text.
+  TRef<IStringArrayList> GetStringValues(const TRef<IObjectArrayList>& AObjectsList) override;
+  // Text outside a fixed list is dropped silently; text the converter rejects by raising resets
+  // the property to its default.
+  void SetStringValue(const String& AValue) override;
+  Boolean GetAutoUpdate() override { return false; }
+  void ResetValue() override;
+
+  void AddRefreshNotify(const TRef<IRefreshMemberNotify>& ANotify) final { FRefreshNotifyList->Add(ANotify); }
+  void RemoveRefreshNotify(const TRef<IRefreshMemberNotify>& ANotify) final { FRefreshNotifyList->RemoveOne(ANotify); }
+  // For the host and subclasses: tells each listener, in the order they were added.
+  void RefreshView();
+
+  // The member of AObject: the shared one, else found by name on the object's type (dynamic
+  // members included), else among the parent's sub-members; nil when none.
+  TRef<IValueMemberInfo> GetValueMember(TObject* AObject);
+  // The owner object, or the first object of the root selection mapped through the parent.
+  Boolean GetFirstOwnerInstance(TObject*& AInstance);
+
+protected:
+  // Subclasses set up here, calling the inherited one first.
+  virtual void InitCreate(TSinglePropertyEditor* AInstance);
+
+  TRef<IArrayList<TRef<IRefreshMemberNotify>>> FRefreshNotifyList;
+
+private:
+  // A selected object mapped to the object the member lives on.
+  TObject* RootToInstance(TObject* AObject);
+  // Writes one instance; true when the member asks for the inspector to be reset.
+  Boolean WriteInstance(const TRef<ISinglePropertyInfo>& AMember, TObject* AInstance, const TValue& AValue);
+  // The first member, or for a set element the property the set belongs to.
+  TRef<IMemberInfo> GetOwnerFirstMember();
+  // The value of a Boolean attribute, on the member first, then on the editor class.
+  Boolean GetBooleanAttribute(const TRef<IMemberInfo>& AMember, TClass AAttribute, Boolean ADefault);
+};
+
+} // namespace Tarvo

@@ -1,0 +1,472 @@
+#include <gtest/gtest.h>
+
+#include "design/MemberKinds.h"
+#include "design/SinglePropertyEditor.h"
+#include "design/paint/PropertyEditorHost.h"
+#include "design/reflection/MemberInfo.h"
+#include "design/reflection/Publish.h"
+#include "rtl/SysUtils.h"
+#include "runtime/LockItem.h"
+
+namespace Tarvo {
+
+// What the objects, the designer and the listeners were told, in order.
+inline std::vector<String> GSpeLog;
+
+class TSpeGadget : public TImplements<TComponent, ILockItem> {
+  TARVO_CLASS(TSpeGadget, TImplements<TComponent, ILockItem>)
+public:
+  explicit TSpeGadget(String ALabel, Integer ALevel = 0) : TImplements(nullptr), FLabel(std::move(ALabel)), FLevel(ALevel) {}
+  TProc<> GetNotifier() override {
+    return [this] { GSpeLog.push_back("changed " + FLabel); };
+  }
+  void SetSize(Integer AValue) {
+    FSize = AValue;
+    GSpeLog.push_back("Size " + FLabel);
+  }
+  void SetGuarded(Integer AValue) {
+    if (FRefuse) throw EDesignPropertyError(FLabel + " refuses " + IntToStr(Int64(AValue)));
+    FGuarded = AValue;
+  }
+  bool IsStampStored() const { return FStamp != 7; }
+  Integer GetCount() const { return 3; }
+  void SetSink(Integer) {}
+
+  String FLabel;
+  Integer FLevel, FSize = 0, FGuarded = 0, FStamp = 0, FQuiet = 0, FMemo = 0;
+  String FMode = "Fast";
+  TSpeGadget* FChild = nullptr;
+  Boolean FRefuse = false;
+};
+TARVO_IMPLEMENT_CLASS(TSpeGadget)
+TARVO_PUBLISH(TSpeGadget) {
+  Property("Level", &TSpeGadget::FLevel, &TSpeGadget::FLevel).Default(0);
+  Property("Size", &TSpeGadget::FSize, &TSpeGadget::SetSize).Attr<RefreshPropertiesAttribute>();
+  Property("Mode", &TSpeGadget::FMode, &TSpeGadget::FMode).Attr<PropertyFixedListDesignAttribute>();
+  Property("Label", &TSpeGadget::FLabel, &TSpeGadget::FLabel);
+  Property("Guarded", &TSpeGadget::FGuarded, &TSpeGadget::SetGuarded);
+  Property("Child", &TSpeGadget::FChild, &TSpeGadget::FChild);
+  Property("Stamp", &TSpeGadget::FStamp, &TSpeGadget::FStamp).Stored(&TSpeGadget::IsStampStored);
+  Property("Count", &TSpeGadget::GetCount);
+  WriteOnlyProperty("Sink", &TSpeGadget::SetSink);
+  Property("Quiet", &TSpeGadget::FQuiet, &TSpeGadget::FQuiet).Default(0).Attr<HideNestedDefaultAttribute>().Attr<DisplayNestedAttribute>();
+  Property("Brief", &TSpeGadget::FQuiet, &TSpeGadget::FQuiet).Attr<DisplayNestedShortAttribute>();
+  Property("Hushed", &TSpeGadget::FQuiet, &TSpeGadget::FQuiet).Attr<DisplayNestedAttribute>(false);
+  Public();
+  Property("Secret", &TSpeGadget::FQuiet, &TSpeGadget::FQuiet);
+  Property("Shown", &TSpeGadget::FQuiet, &TSpeGadget::FQuiet).Attr<DisplayNestedAttribute>();
+  Field("Memo", &TSpeGadget::FMemo);
+}
+
+// Each object gets the value plus the number of objects constrained before it.
+class TSpeStepEditor : public TSinglePropertyEditor {
+  TARVO_CLASS(TSpeStepEditor, TSinglePropertyEditor)
+public:
+  using TSinglePropertyEditor::TSinglePropertyEditor;
+  TValue ApplyConstraints(const TValue& AValue) override { return AValue.AsInteger() + FCalls++; }
+  Integer FCalls = 0;
+};
+
+class TSpeListEditor : public TImplements<TSinglePropertyEditor, IPropertyEditorDropDownStringList> {
+  TARVO_CLASS(TSpeListEditor, TImplements<TSinglePropertyEditor, IPropertyEditorDropDownStringList>)
+public:
+  using TImplements::TImplements;
+  TRef<IStringArrayList> GetStringListValues() override { return TStringArrayList::CreateArray({"Fast", "Slow"}); }
+};
+
+// The row of a nested object: a selected gadget stands for its child.
+class TSpeChildEditor : public TSinglePropertyEditor {
+  TARVO_CLASS(TSpeChildEditor, TSinglePropertyEditor)
+public:
+  using TSinglePropertyEditor::TSinglePropertyEditor;
+  TObject* GetValueForDirectInstance(TObject* AObject) override { return static_cast<TSpeGadget*>(AObject)->FChild; }
+};
+
+class TSpeLockedEditor : public TSinglePropertyEditor {
+  TARVO_CLASS(TSpeLockedEditor, TSinglePropertyEditor)
+public:
+  using TSinglePropertyEditor::TSinglePropertyEditor;
+};
+
+class TSpeNestedEditor : public TSinglePropertyEditor {
+  TARVO_CLASS(TSpeNestedEditor, TSinglePropertyEditor)
+public:
+  using TSinglePropertyEditor::TSinglePropertyEditor;
+};
+
+class TSpeHostedEditor : public TImplements<TSinglePropertyEditor, IPropertyEditorHosted> {
+  TARVO_CLASS(TSpeHostedEditor, TImplements<TSinglePropertyEditor, IPropertyEditorHosted>)
+public:
+  using TImplements::TImplements;
+  void ShowHosted(const TRef<IPropertyEditorHost>&) override { GSpeLog.push_back("shown " + GetName()); }
+
+protected:
+  void InitCreate(TSinglePropertyEditor* AInstance) override {
+    inherited::InitCreate(AInstance);
+    GSpeLog.push_back("init " + AInstance->GetName());
+  }
+};
+
+TARVO_IMPLEMENT_CLASS(TSpeStepEditor)
+TARVO_IMPLEMENT_CLASS(TSpeListEditor)
+TARVO_IMPLEMENT_CLASS(TSpeChildEditor)
+TARVO_IMPLEMENT_CLASS(TSpeLockedEditor)
+TARVO_IMPLEMENT_CLASS(TSpeNestedEditor)
+TARVO_IMPLEMENT_CLASS(TSpeHostedEditor)
+
+const bool GSpeEditorAttributes = [] {
+  RegisterTypeAttribute(TSpeLockedEditor::ClassInfo()->ClassTypeRecord(), new ReadOnlyAttribute());
+  RegisterTypeAttribute(TSpeNestedEditor::ClassInfo()->ClassTypeRecord(), new DisplayNestedAttribute(true));
+  return true;
+}();
+
+// A set element whose own answers would all be "no"; the editor must ask its property instead.
+class TSpeSetElement : public TImplements<TValueMemberInfo, ISetValueMemberInfo> {
+public:
+  explicit TSpeSetElement(TRef<IValueMemberInfo> AOwner)
+      : TImplements(TypeInfo<Boolean>(), nullptr, "Element"), FOwner(std::move(AOwner)) {}
+  TValue GetDefault(TObject*) override { return TValue(); }
+  bool GetHasDefault() override { return false; }
+  bool GetIsDefault(TObject*, bool) override { return false; }
+  TValue GetValue(TObject*) override { return false; }
+  void SetValue(TObject*, const TValue&) override {}
+  TRef<IValueMemberInfo> GetOwnerMember() override { return FOwner; }
+
+private:
+  TRef<IValueMemberInfo> FOwner;
+};
+
+class TSpeDesigner : public TDesigner {
+public:
+  void Modified() override { GSpeLog.push_back("Modified"); }
+  void ResetObjectInspector() override { GSpeLog.push_back("ResetObjectInspector"); }
+  TRef<IObjectArrayList> GetRootSelection() override { return FRoot ? FRoot : TDesigner::GetRootSelection(); }
+  TRef<IObjectArrayList> FRoot;
+};
+
+class TSpeListener : public TImplements<TInterfacedObject, IRefreshMemberNotify> {
+public:
+  explicit TSpeListener(String AName) : FName(std::move(AName)) {}
+  void RefreshMember() override { GSpeLog.push_back("refresh " + FName); }
+
+private:
+  String FName;
+};
+
+namespace {
+
+using TLog = std::vector<String>;
+
+class SinglePropertyEditorTest : public testing::Test {
+protected:
+  void SetUp() override {
+    GSpeLog.clear();
+    FDesigner = New<TSpeDesigner>();
+    Select({&FFirst, &FSecond, &FThird});
+  }
+  void Select(std::vector<TObject*> AObjects) { FDesigner->SetSelection(TObjectArrayList::CreateArray(AObjects)); }
+
+  template <class E = TSinglePropertyEditor>
+  TRef<E> Editor(const String& AName, TObject* AOwnerObject = nullptr, TMemberEditor* AParent = nullptr,
+                 TRef<IMemberInfo> AShared = nullptr) {
+    return TRef<E>(static_cast<E*>(TMemberEditorClass(E::ClassInfo()).Create(AOwnerObject, AParent, TRef<IDesigner>(FDesigner),
+                                                                             AShared, AName, nullptr)));
+  }
+  static TRef<IValueMemberInfo> Member(const String& AName) {
+    TRef<IValueMemberInfo> member;
+    EXPECT_TRUE(TRttiObjectHelper::ClassTypeInfo(TSpeGadget::ClassInfo())->FindMember(AName, member)) << AName;
+    return member;
+  }
+  static std::vector<String> Texts(const TRef<IValueArrayList>& AValues) {
+    std::vector<String> texts;
+    for (const TValue& value : AValues) texts.push_back(value.IsEmpty() ? "<empty>" : value.ToString());
+    return texts;
+  }
+
+  TSpeGadget FFirst{"First", 1}, FSecond{"Second", 2}, FThird{"Third", 1}, FLone{"Lone", 9};
+  TRef<TSpeDesigner> FDesigner;
+};
+
+// ---- Reading ----
+
+TEST_F(SinglePropertyEditorTest, DisplayValueShowsOneTextWhenAllAgreeElseAllJoined) {
+  struct Row {
+    std::vector<Integer> Levels;
+    const char* Text;
+  };
+  const Row rows[] = {{{1, 2, 1}, "1;2;1"}, {{4, 4, 4}, "4"}, {{7}, "7"}, {{}, ""}};
+  for (const Row& r : rows) {
+    std::vector<TObject*> selection;
+    TSpeGadget* gadgets[] = {&FFirst, &FSecond, &FThird};
+    for (std::size_t i = 0; i < r.Levels.size(); ++i) {
+      gadgets[i]->FLevel = r.Levels[i];
+      selection.push_back(gadgets[i]);
+    }
+    Select(selection);
+    EXPECT_EQ(Editor("Level")->GetDisplayValue(nullptr), r.Text) << r.Text;
+  }
+}
+
+TEST_F(SinglePropertyEditorTest, EmptySelectionShowsNothingAndIsAllDefault) {
+  Select({});
+  const TRef<TSinglePropertyEditor> editor = Editor("Level", nullptr, nullptr, Member("Level"));
+  EXPECT_EQ(editor->GetDisplayValue(nullptr), "");
+  EXPECT_TRUE(editor->GetIsAllDefault());
+  EXPECT_TRUE(editor->GetDefaultValue().IsEmpty());
+  EXPECT_EQ(editor->GetDefaultStringValue(), "");
+}
+
+TEST_F(SinglePropertyEditorTest, NilObjectInAnExplicitListGivesAnEmptyValueAndNoStoredAnswer) {
+  FSecond.FStamp = 7; // not stored
+  const TRef<TSinglePropertyEditor> editor = Editor("Stamp");
+  const TRef<IObjectArrayList> list = TObjectArrayList::CreateArray({&FFirst, nullptr, &FSecond});
+  EXPECT_EQ(Texts(editor->GetInstanceValues(list)), (TLog{"0", "<empty>", "7"}));
+  EXPECT_EQ(editor->GetDisplayValue(list), "0;;7");
+  std::vector<std::pair<bool, bool>> stored;
+  for (const TIsDefaultByStrored& item : editor->GetIsDefaultsByStored(list)) stored.emplace_back(item.HasStored, item.IsDefault);
+  EXPECT_EQ(stored, (std::vector<std::pair<bool, bool>>{{true, false}, {false, false}, {true, true}}));
+  // A member without a stored specifier has nothing to ask.
+  for (const TIsDefaultByStrored& item : Editor("Level")->GetIsDefaultsByStored(list)) EXPECT_FALSE(item.HasStored || item.IsDefault);
+}
+
+TEST_F(SinglePropertyEditorTest, ReadsTakeTheRootSelectionAndWritesTheSelection) {
+  FDesigner->FRoot = TObjectArrayList::CreateArray({&FLone});
+  const TRef<TSinglePropertyEditor> editor = Editor("Level");
+  EXPECT_EQ(editor->GetDisplayValue(nullptr), "9");
+  editor->SetInstanceValues(5);
+  EXPECT_EQ(FLone.FLevel, 9);
+  EXPECT_EQ((std::vector<Integer>{FFirst.FLevel, FSecond.FLevel, FThird.FLevel}), (std::vector<Integer>{5, 5, 5}));
+}
+
+TEST_F(SinglePropertyEditorTest, OwnerObjectAloneIsReadIgnoringTheSelection) {
+  const TRef<TSinglePropertyEditor> editor = Editor("Level", &FLone);
+  EXPECT_EQ(Texts(editor->GetInstanceValues(nullptr)), TLog{"9"});
+  EXPECT_FALSE(editor->GetIsAllDefault());
+}
+
+TEST_F(SinglePropertyEditorTest, ParentEditorMapsSelectedObjectsToTheirNestedObjects) {
+  TSpeGadget firstChild{"FirstChild", 10}, secondChild{"SecondChild", 20};
+  FFirst.FChild = &firstChild;
+  FSecond.FChild = &secondChild;
+  Select({&FFirst, &FSecond});
+  const TRef<TSpeChildEditor> parent = Editor<TSpeChildEditor>("Child");
+  const TRef<TSinglePropertyEditor> child = Editor("Level", nullptr, parent.get());
+  EXPECT_EQ(child->GetDisplayValue(nullptr), "10;20");
+  EXPECT_EQ(child->GetOwnerObject(), &firstChild);
+
+  child->SetInstanceValues(3);
+  EXPECT_EQ(firstChild.FLevel, 3);
+  EXPECT_EQ(secondChild.FLevel, 3);
+  EXPECT_EQ(FFirst.FLevel, 1);
+  EXPECT_EQ(GSpeLog, (TLog{"changed FirstChild", "changed SecondChild", "Modified"}));
+
+  GSpeLog.clear();
+  child->SetInstanceValue(&FSecond, 4);
+  EXPECT_EQ(secondChild.FLevel, 4);
+  EXPECT_EQ(GSpeLog, (TLog{"changed SecondChild", "Modified"}));
+
+  Select({});
+  EXPECT_EQ(child->GetOwnerObject(), nullptr);
+}
+
+TEST_F(SinglePropertyEditorTest, OwnerObjectUnderAParentThatIsNoPropertyEditorFails) {
+  const TRef<TMemberEditor> parent =
+      TRef<TMemberEditor>(TMemberEditorClass(TMemberEditor::ClassInfo()).Create(nullptr, nullptr, TRef<IDesigner>(FDesigner), nullptr, "Child", nullptr));
+  try {
+    Editor("Level", nullptr, parent.get())->GetOwnerObject();
+    FAIL() << "no error";
+  } catch (const EInvalidCast& e) {
+    EXPECT_STREQ(e.what(), "Invalid class typecast: the parent editor TMemberEditor is no single property editor");
+  }
+}
+
+// ---- Writing ----
+
+TEST_F(SinglePropertyEditorTest, RefreshingMemberOnTwoObjectsModifiesOnceThenResetsOnce) {
+  Select({&FFirst, &FSecond});
+  Editor("Size")->SetInstanceValues(8);
+  EXPECT_EQ(GSpeLog, (TLog{"Size First", "changed First", "Size Second", "changed Second", "Modified", "ResetObjectInspector"}));
+  EXPECT_EQ(FSecond.FSize, 8);
+
+  GSpeLog.clear();
+  Editor("Level")->SetInstanceValues(8);
+  EXPECT_EQ(GSpeLog, (TLog{"changed First", "changed Second", "Modified"}));
+}
+
+TEST_F(SinglePropertyEditorTest, SetterExceptionPassesThroughAndLeavesEarlierObjectsWritten) {
+  FSecond.FRefuse = true;
+  try {
+    Editor("Guarded")->SetInstanceValues(6);
+    FAIL() << "no error";
+  } catch (const EDesignPropertyError& e) {
+    EXPECT_STREQ(e.what(), "Second refuses 6");
+  }
+  EXPECT_EQ(FFirst.FGuarded, 6);
+  EXPECT_EQ(FThird.FGuarded, 0);
+  EXPECT_EQ(GSpeLog, TLog{"changed First"});
+}
+
+TEST_F(SinglePropertyEditorTest, ConstraintsAreAppliedAnewForEachObject) {
+  const TRef<TSpeStepEditor> editor = Editor<TSpeStepEditor>("Level");
+  editor->SetInstanceValues(10);
+  EXPECT_EQ((std::vector<Integer>{FFirst.FLevel, FSecond.FLevel, FThird.FLevel}), (std::vector<Integer>{10, 11, 12}));
+  // A reset goes through the constraints as well.
+  editor->ResetValue();
+  EXPECT_EQ((std::vector<Integer>{FFirst.FLevel, FSecond.FLevel, FThird.FLevel}), (std::vector<Integer>{3, 4, 5}));
+}
+
+TEST_F(SinglePropertyEditorTest, OwnerBoundEditorWritesOnlyItsOwnObject) {
+  const TRef<TSinglePropertyEditor> editor = Editor("Size", &FLone);
+  editor->SetInstanceValue(&FFirst, 4);
+  EXPECT_EQ(FFirst.FSize, 0);
+  EXPECT_EQ(FLone.FSize, 0);
+  EXPECT_TRUE(GSpeLog.empty());
+
+  editor->SetInstanceValue(&FLone, 4);
+  EXPECT_EQ(FLone.FSize, 4);
+  EXPECT_EQ(GSpeLog, (TLog{"Size Lone", "changed Lone", "Modified", "ResetObjectInspector"}));
+
+  GSpeLog.clear();
+  editor->SetInstanceValues(5);
+  EXPECT_EQ(FLone.FSize, 5);
+  EXPECT_EQ(FFirst.FSize, 0);
+  EXPECT_EQ(GSpeLog, (TLog{"Size Lone", "changed Lone", "Modified", "ResetObjectInspector"}));
+}
+
+TEST_F(SinglePropertyEditorTest, NothingWrittenSendsNoNotice) {
+  Select({});
+  Editor("Level", nullptr, nullptr, Member("Level"))->SetInstanceValues(1);
+  EXPECT_TRUE(GSpeLog.empty());
+}
+
+// ---- Text in ----
+
+TEST_F(SinglePropertyEditorTest, TextOutsideAFixedListIsDroppedSilently) {
+  const TRef<TSpeListEditor> editor = Editor<TSpeListEditor>("Mode");
+  EXPECT_NO_THROW(editor->SetStringValue("Medium"));
+  EXPECT_EQ(FFirst.FMode, "Fast");
+  EXPECT_TRUE(GSpeLog.empty());
+  editor->SetStringValue("Slow");
+  EXPECT_EQ(FThird.FMode, "Slow");
+  // The list closes only a member that says so.
+  Editor<TSpeListEditor>("Label")->SetStringValue("Medium");
+  EXPECT_EQ(FSecond.FLabel, "Medium");
+}
+
+TEST_F(SinglePropertyEditorTest, TextIsConvertedIntoTheFirstValuesType) {
+  const TRef<TSinglePropertyEditor> editor = Editor("Level");
+  editor->SetStringValue("42");
+  EXPECT_EQ((std::vector<Integer>{FFirst.FLevel, FSecond.FLevel, FThird.FLevel}), (std::vector<Integer>{42, 42, 42}));
+  EXPECT_EQ(GSpeLog.back(), "Modified");
+
+  GSpeLog.clear();
+  editor->SetStringValue("forty");
+  EXPECT_EQ(FFirst.FLevel, 42);
+  EXPECT_TRUE(GSpeLog.empty());
+}
+
+TEST_F(SinglePropertyEditorTest, TextTheConverterRaisesOnResetsToTheDefault) {
+  TSpeGadget child{"Child"};
+  FFirst.FChild = FSecond.FChild = FThird.FChild = &child;
+  Editor("Child")->SetStringValue("Child");
+  EXPECT_EQ(FFirst.FChild, nullptr);
+  EXPECT_EQ(FThird.FChild, nullptr);
+  EXPECT_EQ(GSpeLog.back(), "Modified");
+}
+
+// ---- Defaults and access ----
+
+TEST_F(SinglePropertyEditorTest, DefaultsPerObject) {
+  FFirst.FLevel = 0;
+  const TRef<TSinglePropertyEditor> editor = Editor("Level");
+  EXPECT_EQ(editor->GetIsDefaults(nullptr)->ToArray(), (std::vector<Boolean>{true, false, false}));
+  EXPECT_FALSE(editor->GetIsAllDefault());
+  EXPECT_EQ(editor->GetDefaultStringValue(), "0");
+  FSecond.FLevel = FThird.FLevel = 0;
+  EXPECT_TRUE(editor->GetIsAllDefault());
+  // An object that doesn't store the value counts as default.
+  FFirst.FStamp = 7;
+  FSecond.FStamp = 3;
+  EXPECT_EQ(Editor("Stamp")->GetIsDefaults(TObjectArrayList::CreateArray({&FFirst, &FSecond}))->ToArray(),
+            (std::vector<Boolean>{true, false}));
+}
+
+TEST_F(SinglePropertyEditorTest, AccessAndDefaultFlagsOfMembers) {
+  struct Row {
+    const char* Member;
+    bool ReadOnly, WriteOnly, HasDefault;
+  };
+  const Row rows[] = {
+      {"Level", false, false, true},
+      {"Count", true, false, false},
+      {"Sink", false, true, false},
+      {"Memo", true, true, false}, // a field is no single property
+  };
+  for (const Row& r : rows) {
+    const TRef<TSinglePropertyEditor> editor = Editor(r.Member, nullptr, nullptr, Member(r.Member));
+    EXPECT_EQ(editor->GetIsReadOnly(), r.ReadOnly) << r.Member;
+    EXPECT_EQ(editor->GetIsWriteOnly(), r.WriteOnly) << r.Member;
+    EXPECT_EQ(editor->GetHasDefault(), r.HasDefault) << r.Member;
+  }
+  EXPECT_TRUE(Editor<TSpeLockedEditor>("Level")->GetIsReadOnly());
+}
+
+TEST_F(SinglePropertyEditorTest, SetElementAnswersForItsProperty) {
+  const TRef<TSinglePropertyEditor> level = Editor("Element", nullptr, nullptr, New<TSpeSetElement>(Member("Level")));
+  EXPECT_FALSE(level->GetIsReadOnly());
+  EXPECT_FALSE(level->GetIsWriteOnly());
+  EXPECT_TRUE(level->GetHasDefault());
+  EXPECT_TRUE(Editor("Element", nullptr, nullptr, New<TSpeSetElement>(Member("Count")))->GetIsReadOnly());
+}
+
+// ---- Summary in the parent row ----
+
+TEST_F(SinglePropertyEditorTest, DisplayNestedByAttributesAndVisibility) {
+  struct Row {
+    const char* Member;
+    bool NestedEditor;
+    Integer Value;
+    bool Shown;
+    const char* Text;
+  };
+  const Row rows[] = {
+      {"Level", false, 5, true, "Level=5"},
+      {"Secret", false, 5, false, "Secret=5"}, // not published; the text is filled all the same
+      {"Shown", false, 5, true, "Shown=5"},
+      {"Secret", true, 5, true, "Secret=5"},   // the editor class says so
+      {"Hushed", true, 5, false, "Hushed=5"},  // the member's attribute comes first
+      {"Brief", false, 5, true, "5"},
+      {"Quiet", false, 5, true, "Quiet=5"},
+      {"Quiet", false, 0, false, ""},          // hidden at its default despite DisplayNestedAttribute
+  };
+  Select({&FFirst});
+  for (const Row& r : rows) {
+    FFirst.FLevel = FFirst.FQuiet = r.Value;
+    const TRef<TSinglePropertyEditor> editor = r.NestedEditor ? Editor<TSpeNestedEditor>(r.Member) : Editor(r.Member);
+    String text = "left over";
+    EXPECT_EQ(editor->GetDisplayNested(text, nullptr), r.Shown) << r.Member;
+    EXPECT_EQ(text, r.Text) << r.Member;
+  }
+}
+
+// ---- Construction and listeners ----
+
+TEST_F(SinglePropertyEditorTest, SubclassSetupRunsOnceAndListenersHearRefreshInOrder) {
+  const TRef<TSpeHostedEditor> editor = Editor<TSpeHostedEditor>("Level");
+  EXPECT_EQ(GSpeLog, TLog{"init Level"});
+  const TRef<IRefreshMemberNotify> a = New<TSpeListener>("a"), b = New<TSpeListener>("b");
+  editor->AddRefreshNotify(a);
+  editor->AddRefreshNotify(b);
+  editor->RefreshView();
+  editor->RemoveRefreshNotify(a);
+  editor->RefreshView();
+  EXPECT_EQ(GSpeLog, (TLog{"init Level", "refresh a", "refresh b", "refresh b"}));
+
+  TRef<IPropertyEditorHosted> hosted;
+  ASSERT_TRUE(Supports(TRef<IPropertyEditor>(editor), hosted));
+  hosted->ShowHosted(nullptr);
+  EXPECT_EQ(GSpeLog.back(), "shown Level");
+}
+
+} // namespace
+} // namespace Tarvo
