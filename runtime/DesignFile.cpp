@@ -4,6 +4,7 @@
 #include <fstream>
 #include <sstream>
 #include <string_view>
+#include <utility>
 
 #include <nlohmann/json.hpp>
 
@@ -19,6 +20,19 @@ namespace {
 using TJson = nlohmann::ordered_json;
 
 [[noreturn]] void Fail(const String& AMessage) { throw EDesignFileError(AMessage); }
+
+// A design reads the same on every machine: numbers and dates go through the invariant settings
+// for as long as a file is read or written, whatever the host set.
+class TInvariantFormatScope {
+public:
+  TInvariantFormatScope() : FSaved(std::exchange(FormatSettings, TFormatSettings::Invariant())) {}
+  ~TInvariantFormatScope() { FormatSettings = FSaved; }
+  TInvariantFormatScope(const TInvariantFormatScope&) = delete;
+  TInvariantFormatScope& operator=(const TInvariantFormatScope&) = delete;
+
+private:
+  TFormatSettings FSaved;
+};
 
 // A member of these types names a component of the design rather than having a text of its own.
 bool RefersToComponent(PTypeInfo AType) {
@@ -91,8 +105,12 @@ private:
     if (!IsValidIdent(name)) Fail("Invalid component name '" + name + "' at " + APath);
     if (FRoot->FindComponent(name)) Fail("Duplicate component name '" + name + "' at " + APath);
 
-    TComponent* component =
-        TComponentHelper::CreateComponent(found, FRoot, FRoot->ComponentState().Contains(csDesigning), true);
+    TComponent* component = nullptr;
+    try {
+      component = TComponentHelper::CreateComponent(found, FRoot, FRoot->ComponentState().Contains(csDesigning), true);
+    } catch (const Exception& e) {
+      Fail("Cannot create component '" + name + "' of class '" + className + "': " + e.Message());
+    }
     FCreated.push_back(component);
     component->SetName(name);
     if (auto* control = dynamic_cast<TControl*>(component); control && AParent) control->SetParent(AParent);
@@ -233,6 +251,7 @@ std::vector<TComponent*> ReadDesign(const String& AText, TComponent* ARoot) {
     const std::string_view detail = e.what();
     Fail("The design is no valid JSON: " + String(detail.substr(detail.find("] ") + 2)));
   }
+  const TInvariantFormatScope invariant;
   return TDesignReader(ARoot).Read(design);
 }
 
@@ -250,6 +269,7 @@ std::vector<TComponent*> ReadDesignFile(const String& APath, TComponent* ARoot) 
 
 String WriteDesign(TComponent* ARoot) {
   TARVO_ASSERT(ARoot != nullptr);
+  const TInvariantFormatScope invariant;
   try {
     return TDesignWriter(ARoot).Write().dump(2) + "\n";
   } catch (const TJson::type_error&) {

@@ -11,7 +11,8 @@
 // of a class-valued member, and a member that refers to a component (or to an interface of one)
 // names a component of the design, wherever it stands in the file. Children are owned by the
 // root like every other component; a child of a window control is also parented to it, and so
-// is a top-level control when the root itself is a window control.
+// is a top-level control when the root itself is a window control. Numbers and dates are written
+// with the invariant format settings.
 
 #include <vector>
 

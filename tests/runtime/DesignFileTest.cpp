@@ -10,6 +10,7 @@
 #include "runtime/DesignFile.h"
 #include "runtime/Events.h"
 #include "runtime/Shape.h"
+#include "rtl/SysUtils.h"
 
 namespace Tarvo {
 
@@ -73,6 +74,15 @@ TARVO_PUBLISH(TDesignFileTestGauge) {
   Private();
   Property("Secret", &TDesignFileTestGauge::FValue, &TDesignFileTestGauge::FValue);
 }
+
+// Has no factory: it cannot be made from a design.
+class TDesignFileTestAbstract : public TComponent {
+  TARVO_CLASS(TDesignFileTestAbstract, TComponent)
+public:
+  using TComponent::TComponent;
+  virtual void Run() = 0;
+};
+TARVO_IMPLEMENT_CLASS(TDesignFileTestAbstract)
 
 namespace {
 
@@ -157,6 +167,8 @@ TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
   const TErrorRow rows[] = {
       {R"({"components": [{"class": "TFoo", "name": "Foo1"}]})", "Unknown class 'TFoo' for component 'Foo1'"},
       {R"({"components": [{"class": "TFont", "name": "Font1"}]})", "Class 'TFont' of component 'Font1' is no component class"},
+      {R"({"components": [{"class": "TShape", "name": "Shape1"}, {"class": "TDesignFileTestAbstract", "name": "Abstract1"}]})",
+       "Cannot create component 'Abstract1' of class 'TDesignFileTestAbstract': Cannot create an instance of the abstract class"},
       {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Colour": "1"}}]})",
        "Unknown property 'Colour' of component 'Gauge1' (TDesignFileTestGauge)"},
       {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Secret": "1"}}]})",
@@ -265,6 +277,20 @@ TEST_F(DesignFileTest, AWrittenDesignReadsBackToTheSameDesign) {
   EXPECT_EQ(Gauge(copy.get(), "Gauge1")->GetPeer(), Gauge(copy.get(), "Gauge2"));
   EXPECT_EQ(Gauge(copy.get(), "Gauge1")->FPart->FLevel, 0);
   EXPECT_EQ(dynamic_cast<TShape*>(copy->FindComponent("Shape1"))->GetParent(), copy->FindComponent("Panel1"));
+}
+
+TEST_F(DesignFileTest, NumbersUseTheInvariantSettingsWhateverTheHostSet) {
+  struct TRestore {
+    TFormatSettings Saved = FormatSettings;
+    ~TRestore() { FormatSettings = Saved; }
+  } restore;
+  FormatSettings.DecimalSeparator = ',';
+  ReadDesign(R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Ratio": "0.75"}}]})",
+             FRoot.get());
+  EXPECT_EQ(Gauge(FRoot.get(), "Gauge1")->FRatio, 0.75);
+  const String written = WriteDesign(FRoot.get());
+  EXPECT_NE(written.find("\"Ratio\": \"0.75\""), String::npos) << written;
+  EXPECT_EQ(FloatToStr(Extended(0.75)), "0,75"); // the host's settings are back
 }
 
 } // namespace

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <memory>
-
 #include "design/reflection/Publish.h"
 #include "runtime/Component.h"
 #include "runtime/Events.h"
@@ -99,16 +97,6 @@ TEST_F(EventsTest, AnEventWithMoreParametersPassesThemAll) {
   FSource->Step(3);
   FSource->Step(4);
   EXPECT_EQ(total, 7);
-}
-
-TEST_F(EventsTest, AValueKeepsItsHandlerAliveAfterTheSourceForgetsIt) {
-  const auto counter = std::make_shared<int>(0);
-  FSource->FOnChange = [counter](TObject*) { ++*counter; };
-  const TValue kept = EventMember(FSource.get(), "OnChange")->GetValue(FSource.get());
-  FSource->FOnChange = nullptr;
-  EXPECT_EQ(counter.use_count(), 2);
-  kept.AsType<TNotifyEvent>()(nullptr);
-  EXPECT_EQ(*counter, 1);
 }
 
 TEST_F(EventsTest, AnEventHasNoTextFormAndSaysWhichType) {
