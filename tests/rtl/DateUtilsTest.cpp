@@ -28,41 +28,33 @@ template <class F> void ExpectConvertError(F AAction, const String& AMessage) {
   }
 }
 
-// ---- Encoding and decoding ----
-
-struct TRoundTripRow {
-  TStamp Stamp;
-  TDateTime Serial;
-  const char* Text;
-};
-
-class DateUtilsRoundTripTest : public testing::TestWithParam<TRoundTripRow> {};
-
-TEST_P(DateUtilsRoundTripTest, EncodesDecodesAndFormats) {
-  const TRoundTripRow& row = GetParam();
-  const TDateTime value = Encoded(row.Stamp);
-  EXPECT_DOUBLE_EQ(value, row.Serial);
-  EXPECT_EQ(Decoded(row.Serial), row.Stamp);
-  EXPECT_EQ(DateTimeToStr(row.Serial), row.Text);
-  TDateTime parsed = 0;
-  ASSERT_TRUE(TryStrToDateTime(row.Text, parsed));
-  TStamp toTheSecond = row.Stamp;
-  toTheSecond[6] = 0;
-  EXPECT_EQ(Decoded(parsed), toTheSecond);
+// Encodes, decodes, formats and parses back to the second.
+TEST(DateUtilsEncodeTest, RoundTrips) {
+  const struct {
+    TStamp Stamp;
+    TDateTime Serial;
+    const char* Text;
+  } rows[] = {{{1899, 12, 30, 0, 0, 0, 0}, 0, "1899-12-30"},
+              {{1899, 12, 29, 6, 0, 0, 0}, -1.25, "1899-12-29 06:00:00"},
+              {{1899, 12, 30, 12, 0, 0, 0}, 0.5, "1899-12-30 12:00:00"},
+              {{1899, 12, 1, 18, 0, 0, 0}, -29.75, "1899-12-01 18:00:00"},
+              {{1970, 1, 1, 0, 0, 0, 0}, 25569, "1970-01-01"},
+              {{2024, 2, 29, 12, 0, 0, 0}, 45351.5, "2024-02-29 12:00:00"},
+              {{2000, 2, 29, 0, 0, 1, 0}, 36585 + 1.0 / 86400, "2000-02-29 00:00:01"},
+              {{1, 1, 1, 0, 0, 0, 0}, -693593, "0001-01-01"},
+              {{9999, 12, 31, 23, 59, 59, 999}, 2958465 + 86399999.0 / 86400000, "9999-12-31 23:59:59"}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.Text);
+    EXPECT_DOUBLE_EQ(Encoded(row.Stamp), row.Serial);
+    EXPECT_EQ(Decoded(row.Serial), row.Stamp);
+    EXPECT_EQ(DateTimeToStr(row.Serial), row.Text);
+    TDateTime parsed = 0;
+    ASSERT_TRUE(TryStrToDateTime(row.Text, parsed));
+    TStamp toTheSecond = row.Stamp;
+    toTheSecond[6] = 0;
+    EXPECT_EQ(Decoded(parsed), toTheSecond);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Dates, DateUtilsRoundTripTest,
-    testing::Values(TRoundTripRow{{1899, 12, 30, 0, 0, 0, 0}, 0, "1899-12-30"},
-                    TRoundTripRow{{1899, 12, 29, 6, 0, 0, 0}, -1.25, "1899-12-29 06:00:00"},
-                    TRoundTripRow{{1899, 12, 30, 12, 0, 0, 0}, 0.5, "1899-12-30 12:00:00"},
-                    TRoundTripRow{{1899, 12, 1, 18, 0, 0, 0}, -29.75, "1899-12-01 18:00:00"},
-                    TRoundTripRow{{1970, 1, 1, 0, 0, 0, 0}, 25569, "1970-01-01"},
-                    TRoundTripRow{{2024, 2, 29, 12, 0, 0, 0}, 45351.5, "2024-02-29 12:00:00"},
-                    TRoundTripRow{{2000, 2, 29, 0, 0, 1, 0}, 36585 + 1.0 / 86400, "2000-02-29 00:00:01"},
-                    TRoundTripRow{{1, 1, 1, 0, 0, 0, 0}, -693593, "0001-01-01"},
-                    TRoundTripRow{{9999, 12, 31, 23, 59, 59, 999}, 2958465 + 86399999.0 / 86400000,
-                                  "9999-12-31 23:59:59"}));
 
 TEST(DateUtilsEncodeTest, InvalidPartsRaise) {
   const std::array<Word, 3> dates[] = {{2023, 2, 29}, {1900, 2, 29}, {0, 1, 1},    {10000, 1, 1},
@@ -87,7 +79,6 @@ TEST(DateUtilsEncodeTest, EveryMillisecondSurvivesDecoding) {
     ASSERT_EQ(MilliSecondOf(day + EncodeTime(12, 0, 0, ms)), ms);
     ASSERT_EQ(MilliSecondOf(EncodeDateTime(1850, 6, 1, 23, 59, 59, ms)), ms); // before day 0
   }
-  EXPECT_EQ(MilliSecondOf(EncodeTime(12, 0, 0, 250)), 250);
 }
 
 TEST(DateUtilsEncodeTest, RoundingCarriesIntoTheNextDay) {
@@ -102,8 +93,6 @@ TEST(DateUtilsEncodeTest, ValuesOutsideTheCalendarRaise) {
   for (TDateTime value : outside)
     ExpectConvertError([value] { YearOf(value); }, "Invalid argument to date decode");
 }
-
-// ---- Parts ----
 
 TEST(DateUtilsPartsTest, DaysInMonth) {
   struct Row {
@@ -147,8 +136,6 @@ TEST(DateUtilsPartsTest, RecodeReplacesOnePart) {
   ExpectConvertError([&] { RecodeYear(base, 2023); }, "Invalid argument to date encode"); // no 2023-02-29
   ExpectConvertError([&] { RecodeDay(base, 30); }, "Invalid argument to date encode");
 }
-
-// ---- Text ----
 
 TEST(DateUtilsTextTest, FormatTokens) {
   const TDateTime value = EncodeDateTime(2005, 3, 4, 5, 6, 7, 8);
@@ -204,17 +191,11 @@ TEST(DateUtilsTextTest, AcceptedTexts) {
 TEST(DateUtilsTextTest, RejectedTexts) {
   const char* dates[] = {"2023-02-29", "abc", "", "2024-02", "024-01-01", "2024-1-1-1", "2024/01/01", "2024-001-01",
                          "2024-01-01x", "0000-01-01"};
-  for (const char* text : dates) {
-    TDateTime value = 0;
-    EXPECT_FALSE(TryStrToDate(text, value)) << text;
-  }
+  TDateTime value = 0;
+  for (const char* text : dates) EXPECT_FALSE(TryStrToDate(text, value)) << text;
   const char* times[] = {"25:00", "24:00", "12:60", "12", "12:00:60", "13:00 PM", "0:30 AM", "12:00:00.1234", "1:2:3:4",
                          "12:00:00.", "abc", ""};
-  for (const char* text : times) {
-    TDateTime value = 0;
-    EXPECT_FALSE(TryStrToTime(text, value)) << text;
-  }
-  TDateTime value = 0;
+  for (const char* text : times) EXPECT_FALSE(TryStrToTime(text, value)) << text;
   EXPECT_FALSE(TryStrToDateTime("2024-02-29 25:00", value));
   EXPECT_FALSE(TryStrToDateTime("12:00", value));
   ExpectConvertError([] { StrToDate("2023-02-29"); }, "'2023-02-29' is not a valid date");

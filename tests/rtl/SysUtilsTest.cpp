@@ -26,8 +26,6 @@ TFormatSettings CommaSettings() {
   return settings;
 }
 
-// ---- Comparison and trimming ----
-
 TEST(SysUtilsTextTest, ComparisonsFoldAsciiOnly) {
   EXPECT_TRUE(SameText("TObject", "tobject"));
   EXPECT_FALSE(SameText("abc", "abcd"));
@@ -53,43 +51,27 @@ TEST(SysUtilsTextTest, TrimDropsControlCharacters) {
   EXPECT_EQ(Trim("\xC2\xA0x"), "\xC2\xA0x"); // UTF-8 bytes are not blanks
 }
 
-// ---- Integers ----
-
-struct TIntRow {
-  const char* Text;
-  bool Ok;
-  Integer Value;
-};
-
-class SysUtilsTryStrToIntTest : public testing::TestWithParam<TIntRow> {};
-
-TEST_P(SysUtilsTryStrToIntTest, Parses) {
-  const TIntRow& row = GetParam();
-  Integer value = 12345;
-  EXPECT_EQ(TryStrToInt(row.Text, value), row.Ok);
-  if (row.Ok) {
-    EXPECT_EQ(value, row.Value);
+TEST(SysUtilsIntegerTest, TryStrToInt) {
+  const struct {
+    const char* Text;
+    bool Ok;
+    Integer Value;
+  } rows[] = {{"0", true, 0},          {"-0", true, 0},         {"+17", true, 17},       {"-17", true, -17},
+              {"007", true, 7},        {"$1f", true, 31},       {"0x1F", true, 31},      {"0X10", true, 16},
+              {"-$10", true, -16},     {"+0x10", true, 16},     {"$FFFFFFFF", true, -1}, {"$80000000", true, INT32_MIN},
+              {"0x7FFFFFFF", true, INT32_MAX},                  {"2147483647", true, INT32_MAX},
+              {"-2147483648", true, INT32_MIN},                 {"2147483648", false, 0},
+              {"-2147483649", false, 0},                        {"$100000000", false, 0},
+              {"99999999999999999999999", false, 0},            {"", false, 0},
+              {" ", false, 0},         {" 1", false, 0},        {"1 ", false, 0},        {"12a", false, 0},
+              {"-", false, 0},         {"$", false, 0},         {"0x", false, 0},        {"$G", false, 0},
+              {"1.0", false, 0},       {"--1", false, 0}};
+  for (const auto& r : rows) {
+    Integer value = 12345;
+    EXPECT_EQ(TryStrToInt(r.Text, value), r.Ok) << r.Text;
+    if (r.Ok) EXPECT_EQ(value, r.Value) << r.Text;
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(Forms, SysUtilsTryStrToIntTest,
-                         testing::Values(TIntRow{"0", true, 0}, TIntRow{"-0", true, 0}, TIntRow{"+17", true, 17},
-                                         TIntRow{"-17", true, -17}, TIntRow{"007", true, 7},
-                                         TIntRow{"2147483647", true, INT32_MAX},
-                                         TIntRow{"-2147483648", true, INT32_MIN}, TIntRow{"$1f", true, 31},
-                                         TIntRow{"0x1F", true, 31}, TIntRow{"0X10", true, 16},
-                                         TIntRow{"-$10", true, -16}, TIntRow{"+0x10", true, 16},
-                                         TIntRow{"$FFFFFFFF", true, -1}, TIntRow{"$80000000", true, INT32_MIN},
-                                         TIntRow{"0x7FFFFFFF", true, INT32_MAX}));
-
-INSTANTIATE_TEST_SUITE_P(Rejects, SysUtilsTryStrToIntTest,
-                         testing::Values(TIntRow{"", false, 0}, TIntRow{" ", false, 0}, TIntRow{" 1", false, 0},
-                                         TIntRow{"1 ", false, 0}, TIntRow{"12a", false, 0}, TIntRow{"-", false, 0},
-                                         TIntRow{"$", false, 0}, TIntRow{"0x", false, 0}, TIntRow{"$G", false, 0},
-                                         TIntRow{"1.0", false, 0}, TIntRow{"--1", false, 0},
-                                         TIntRow{"2147483648", false, 0}, TIntRow{"-2147483649", false, 0},
-                                         TIntRow{"$100000000", false, 0},
-                                         TIntRow{"99999999999999999999999", false, 0}));
 
 TEST(SysUtilsIntegerTest, SixtyFourBitForms) {
   struct Row {
@@ -137,36 +119,25 @@ TEST(SysUtilsIntegerTest, IntegersToText) {
   EXPECT_EQ(IntToHex(0, 0), "0");
 }
 
-// ---- Floats ----
-
-struct TFloatRow {
-  Extended Value;
-  bool AsSingle;
-  const char* Text;
-};
-
-class SysUtilsFloatToStrTest : public testing::TestWithParam<TFloatRow> {};
-
-TEST_P(SysUtilsFloatToStrTest, GeneralForm) {
-  const TFloatRow& row = GetParam();
-  EXPECT_EQ(row.AsSingle ? FloatToStr(Single(row.Value)) : FloatToStr(row.Value), row.Text);
+TEST(SysUtilsFloatTest, FloatToStrGeneralForm) {
+  const struct {
+    Extended Value;
+    bool AsSingle;
+    const char* Text;
+  } rows[] = {{0.1L, true, "0.1"}, {1.0L / 3, true, "0.3333333"},
+              {FLT_MAX, true, "3.402823E38"}, {1234567, true, "1234567"},
+              {12345678, true, "1.234568E7"}, {Extended(0.1f), false, "0.100000001490116"},
+              {1.0L / 3, false, "0.333333333333333"}, {1e20L, false, "1E20"},
+              {1.5e-7L, false, "1.5E-7"}, {DBL_MAX, false, "1.79769313486232E308"},
+              {-FLT_MAX, false, "-3.40282346638529E38"}, {100, false, "100"},
+              {0.00001L, false, "0.00001"}, {0.0000099L, false, "9.9E-6"},
+              {1e14L, false, "100000000000000"}, {1e15L, false, "1E15"},
+              {999999999999999.9L, false, "1E15"}, {-2.5L, false, "-2.5"},
+              {-0.0L, false, "0"}, {0.0L, false, "0"},
+              {std::numeric_limits<Extended>::infinity(), false, "INF"}, {-std::numeric_limits<Extended>::infinity(), false, "-INF"},
+              {std::numeric_limits<Extended>::quiet_NaN(), false, "NAN"}};
+  for (const auto& r : rows) EXPECT_EQ(r.AsSingle ? FloatToStr(Single(r.Value)) : FloatToStr(r.Value), r.Text);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Values, SysUtilsFloatToStrTest,
-    testing::Values(TFloatRow{0.1L, true, "0.1"}, TFloatRow{1.0L / 3, true, "0.3333333"},
-                    TFloatRow{FLT_MAX, true, "3.402823E38"}, TFloatRow{1234567, true, "1234567"},
-                    TFloatRow{12345678, true, "1.234568E7"}, TFloatRow{Extended(0.1f), false, "0.100000001490116"},
-                    TFloatRow{1.0L / 3, false, "0.333333333333333"}, TFloatRow{1e20L, false, "1E20"},
-                    TFloatRow{1.5e-7L, false, "1.5E-7"}, TFloatRow{DBL_MAX, false, "1.79769313486232E308"},
-                    TFloatRow{-FLT_MAX, false, "-3.40282346638529E38"}, TFloatRow{100, false, "100"},
-                    TFloatRow{0.00001L, false, "0.00001"}, TFloatRow{0.0000099L, false, "9.9E-6"},
-                    TFloatRow{1e14L, false, "100000000000000"}, TFloatRow{1e15L, false, "1E15"},
-                    TFloatRow{999999999999999.9L, false, "1E15"}, TFloatRow{-2.5L, false, "-2.5"},
-                    TFloatRow{-0.0L, false, "0"}, TFloatRow{0.0L, false, "0"},
-                    TFloatRow{std::numeric_limits<Extended>::infinity(), false, "INF"},
-                    TFloatRow{-std::numeric_limits<Extended>::infinity(), false, "-INF"},
-                    TFloatRow{std::numeric_limits<Extended>::quiet_NaN(), false, "NAN"}));
 
 TEST(SysUtilsFloatTest, SeparatorComesFromTheSettings) {
   const TFormatSettings comma = CommaSettings();
@@ -238,8 +209,6 @@ TEST(SysUtilsFloatTest, Booleans) {
   EXPECT_FALSE(TryStrToBool("", value));
 }
 
-// ---- Format ----
-
 TEST(SysUtilsFormatTest, Directives) {
   const String name = "Caption";
   const std::pair<String, const char*> rows[] = {
@@ -263,11 +232,9 @@ TEST(SysUtilsFormatTest, Directives) {
 
 TEST(SysUtilsFormatTest, MismatchesRaise) {
   ExpectConvertError([] { Format("%d", {"x"}); }, "Format '%d' invalid or incompatible with argument");
-  ExpectConvertError([] { Format("%s", {1}); }, "Format '%s' invalid or incompatible with argument");
-  ExpectConvertError([] { Format("%x", {1.5}); }, "Format '%x' invalid or incompatible with argument");
-  ExpectConvertError([] { Format("%f", {1}); }, "Format '%f' invalid or incompatible with argument");
-  ExpectConvertError([] { Format("%q", {1}); }, "Format '%q' invalid or incompatible with argument");
-  ExpectConvertError([] { Format("50%", {1}); }, "Format '50%' invalid or incompatible with argument");
+  for (const auto& [format, argument] : std::vector<std::pair<String, TFormatArg>>{
+           {"%s", 1}, {"%x", 1.5}, {"%f", 1}, {"%q", 1}, {"50%", 1}})
+    ExpectConvertError([&] { Format(format, {argument}); }, "Format '" + format + "' invalid or incompatible with argument");
   ExpectConvertError([] { Format("%d and %d", {1}); }, "No argument for format '%d and %d'");
   ExpectConvertError([] { Format("%3:d", {1}); }, "No argument for format '%3:d'");
 }

@@ -65,16 +65,12 @@ TEST(VariantBuildTest, TypeNamesOfFlagsAndUnknownCodes) {
   for (const auto& [code, name] : rows) EXPECT_EQ(VarTypeAsText(code), name);
 }
 
-// ---- VarCast ----
-
-struct TCastRow {
-  Variant Source;
-  TVarType Target;
-  Variant Expected;
-};
-
 TEST(VariantCastTest, Conversions) {
-  const TCastRow rows[] = {
+  const struct {
+    Variant Source;
+    TVarType Target;
+    Variant Expected;
+  } rows[] = {
       {Variant("42"), varInteger, Variant(42)},
       {Variant(" 42"), varInteger, Variant(42)}, // integer text fails, float text trims
       {Variant("$FF"), varByte, Variant(Byte(255))},
@@ -121,10 +117,8 @@ TEST(VariantCastTest, Conversions) {
       {Variant::Null(), varNull, Variant::Null()},
       {Variant::FromDispatch(&SomeObject), varDispatch, Variant::FromDispatch(&SomeObject)},
   };
-  for (const TCastRow& r : rows) {
-    EXPECT_EQ(VarCast(r.Source, r.Target), r.Expected)
-        << VarTypeAsText(r.Source.VarType()) << " -> " << VarTypeAsText(r.Target);
-  }
+  for (const auto& r : rows)
+    EXPECT_EQ(VarCast(r.Source, r.Target), r.Expected) << VarTypeAsText(r.Source.VarType()) << " -> " << VarTypeAsText(r.Target);
   // The string codes differ in the code only.
   const Variant text = VarCast(Variant(UINT64_MAX), varOleStr);
   EXPECT_EQ(text.VarType(), varOleStr);
@@ -133,12 +127,11 @@ TEST(VariantCastTest, Conversions) {
 }
 
 TEST(VariantCastTest, Refusals) {
-  struct Row {
+  const struct {
     Variant Source;
     TVarType Target;
     const char* Message;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {Variant(70000), varSmallint, "Overflow while converting variant of type (Integer) into type (Smallint)"},
       {Variant(-1), varByte, "Overflow while converting variant of type (Integer) into type (Byte)"},
       {Variant(256), varByte, "Overflow while converting variant of type (Integer) into type (Byte)"},
@@ -167,7 +160,7 @@ TEST(VariantCastTest, Refusals) {
       {Variant(5), 0x0FFE, "Could not convert variant of type (Integer) into type ($0FFE)"},
       {Variant::FromDate(1e9), varUString, "Could not convert variant of type (Date) into type (UnicodeString)"},
   };
-  for (const Row& r : rows) {
+  for (const auto& r : rows) {
     try {
       VarCast(r.Source, r.Target);
       ADD_FAILURE() << "no error: " << r.Message;
@@ -176,8 +169,6 @@ TEST(VariantCastTest, Refusals) {
     }
   }
 }
-
-// ---- Accessors and text ----
 
 TEST(VariantReadTest, AccessorsConvert) {
   EXPECT_EQ(Variant("12").AsInteger(), 12);
