@@ -24,8 +24,6 @@ V WalkWith(const IntList& AList, const std::function<void(int)>& AStep) {
   return seen;
 }
 
-// ---- Deferred deletion ----
-
 TEST(LinkedListWalkTest, RemovingASuccessorPassesOverItsPredecessor) {
   IntList list = Make({1, 2, 3, 4});
   // 3 is flagged while the walk stands on 1: 2 (whose successor is flagged) is passed over,
@@ -109,13 +107,6 @@ TEST(LinkedListWalkTest, ClearSetsTheCountToZeroUnderAWalkOfNoNodes) {
   EXPECT_EQ(list->GetCount(), 0);
 }
 
-TEST(LinkedListWalkTest, CurrentBeforeTheFirstStepIsAnAssertionFailure) {
-  IntList list = Make({1});
-  EXPECT_THROW(list->GetEnumerator()->GenericGetCurrent(), EAssertionFailed);
-}
-
-// ---- Operations without a walk ----
-
 TEST(LinkedListTest, RemovalMendsTheLinks) {
   IntList list = Make({1, 2, 3});
   EXPECT_EQ(list->RemoveOne(3), 2);
@@ -188,8 +179,10 @@ TEST(LinkedListTest, SelfAppendAndSelfAssignLeaveTheListUnchanged) {
   EXPECT_EQ(Contents(TLinkedList<int>::CreateCopy(list)), (V{5, 6}));
 }
 
+// So is reading the current element before the first step.
 TEST(LinkedListTest, NilArgumentsAreAssertionFailures) {
   IntList list = Make({1});
+  EXPECT_THROW(list->GetEnumerator()->GenericGetCurrent(), EAssertionFailed);
   EXPECT_THROW(list->Append(TRef<IEnumerable<int>>()), EAssertionFailed);
   EXPECT_THROW(list->Assign(nullptr), EAssertionFailed);
   EXPECT_THROW(list->IfRemoveOne(nullptr), EAssertionFailed);

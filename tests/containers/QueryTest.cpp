@@ -49,8 +49,6 @@ TRef<IEnumerable<Integer>> Ints(std::vector<Integer> AItems) { return New<TInts>
 
 const TConstFunc<Integer, Boolean> IsEven = [](const Integer& AItem) { return AItem % 2 == 0; };
 
-// ---- Questions ----
-
 TEST(QueryTest, EqualsWalksBothToTheEnd) {
   const auto query = QueryOf(New<TInts>(std::vector<Integer>{1, 2, 3}));
   const TConstFunc<Integer, Integer, Boolean> sameLastDigit = [](const Integer& A, const Integer& B) {
@@ -117,8 +115,6 @@ TEST(QueryTest, EveryRunWalksTheSourceAsItStandsThen) {
   EXPECT_EQ(query->First(), 2);
 }
 
-// ---- Collections made by a query ----
-
 TEST(QueryTest, FilterIsEagerAndLeavesTheSource) {
   const auto source = New<TInts>(std::vector<Integer>{1, 2, 3, 4});
   int calls = 0;
@@ -144,15 +140,11 @@ TEST(QueryTest, SkipAndTakeBoundaries) {
     EXPECT_EQ(taken->Items, c.Taken) << c.Count;
     EXPECT_NE(skipped.get(), source.get()) << "a copy, never the source";
   }
-}
-
-TEST(QueryTest, TakeStopsOneStepPastTheLastTaken) {
-  const auto source = New<TInts>(std::vector<Integer>{1, 2, 3, 4, 5});
+  // Take stops one step past the last taken.
+  const auto source = New<TInts>(items);
   QueryOf(source)->Take(2);
   EXPECT_EQ(source->MoveNextCalls, 3);
 }
-
-// ---- Fluent operations ----
 
 TEST(QueryTest, FluentOperationsHandBackTheSource) {
   const auto source = New<TInts>(std::vector<Integer>{3, 4, 6});
@@ -193,8 +185,6 @@ TEST(QueryTest, AccessIsMadeOnceAndReadsTheQuery) {
   access->CreateEnumerator();
   EXPECT_EQ(source->Walks, 1);
 }
-
-// ---- Assertions ----
 
 TEST(QueryTest, NilArgumentsAreAssertionFailures) {
   const auto query = QueryOf(New<TInts>(std::vector<Integer>{1}));
