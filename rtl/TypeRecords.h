@@ -76,6 +76,8 @@ struct TTypeInfo {
   // Interfaces.
   TGUID Guid{};
   PTypeInfo IntfParent = nullptr;
+  // Method pointers (tkMethod): whether a handler is assigned.
+  bool (*IsAssigned)(const void* AData) = nullptr;
 
   std::size_t DataSize() const { return Ops ? Ops->Size : 0; }
   bool IsOrdinal() const;

@@ -419,6 +419,9 @@ String TValue::ToString() const {
     return intf ? "(interface @ " + AddressText(InterfaceIdentity(intf.get())) + ")" : String("nil");
   }
   case tkPointer: return "(pointer @ " + AddressText(*static_cast<void* const*>(data)) + ")";
+  case tkMethod:
+    if (FTypeInfo->IsAssigned && !FTypeInfo->IsAssigned(data)) return "nil";
+    return String("(") + FTypeInfo->Name + ")";
   default:
     if (ReadText(text)) return text;
     return String("(") + FTypeInfo->Name + ")";

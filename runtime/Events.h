@@ -23,7 +23,11 @@ public:
 
 // The record of an event type: kind tkMethod over the handler's representation; the empty
 // handler is what a value of the type starts as.
-template <class E> constexpr TTypeInfo EventTypeRecord(const char* AName) { return TypeRecordOfKind<E>(AName, tkMethod); }
+template <class E> constexpr TTypeInfo EventTypeRecord(const char* AName) {
+  TTypeInfo r = TypeRecordOfKind<E>(AName, tkMethod);
+  r.IsAssigned = [](const void* AData) { return static_cast<bool>(*static_cast<const E*>(AData)); };
+  return r;
+}
 
 } // namespace Tarvo
 

@@ -40,6 +40,7 @@ public:
     case tkFloat: return value.AsExtended() == 0;
     case tkClass: return value.AsObject() == nullptr;
     case tkInterface: return !value.AsInterface();
+    case tkMethod: return TypeRecord()->IsAssigned && !TypeRecord()->IsAssigned(value.GetReferenceToRawData());
     default: return TypeRecord()->IsString() && value.AsString().empty();
     }
   }

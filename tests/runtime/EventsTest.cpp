@@ -66,6 +66,8 @@ TEST_F(EventsTest, AnUnassignedEventReadsAsAnEmptyHandlerOfItsTypeAndThatIsTheDe
   const TValue byDefault = member->GetDefault(FSource.get());
   EXPECT_EQ(byDefault.GetTypeInfo(), &TypeInfo_TNotifyEvent);
   EXPECT_FALSE(byDefault.AsType<TNotifyEvent>());
+  EXPECT_EQ(value.ToString(), "nil");
+  EXPECT_TRUE(member->GetIsDefault(FSource.get(), false));
 }
 
 TEST_F(EventsTest, AHandlerWrittenThroughReflectionIsFiredWithTheSenderAndReadsBack) {
@@ -76,6 +78,8 @@ TEST_F(EventsTest, AHandlerWrittenThroughReflectionIsFiredWithTheSenderAndReadsB
   FSource->Change();
   ASSERT_EQ(senders.size(), 1u);
   EXPECT_EQ(senders[0], FSource.get());
+  EXPECT_FALSE(member->GetIsDefault(FSource.get(), false)); // an assigned handler is no default
+  EXPECT_EQ(member->GetValue(FSource.get()).ToString(), "(TNotifyEvent)");
 
   // The handler read back is the one written: calling it reaches the same list.
   member->GetValue(FSource.get()).AsType<TNotifyEvent>()(nullptr);
