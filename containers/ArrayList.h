@@ -8,7 +8,7 @@
 namespace Tarvo {
 
 template <class T>
-class TArrayList final : public TListCommon<T, IArrayList<T>, TArrayList<T>> {
+class TArrayList : public TListCommon<T, IArrayList<T>, TArrayList<T>> {
   using TBase = TListCommon<T, IArrayList<T>, TArrayList<T>>;
 
 public:

@@ -50,6 +50,9 @@ class IPropertyEditors : public virtual IArrayList<TRef<IPropertyEditor>> {
   TARVO_INTERFACE(IPropertyEditors, IArrayList<TRef<IPropertyEditor>>, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A67}")
 };
 
+// The editors a row that answers ISubPropertyEditors expands into: an array list that says so.
+class TPropertyEditors : public TImplements<TArrayList<TRef<IPropertyEditor>>, IPropertyEditors> {};
+
 // An editor that offers a list of values to pick from.
 class IPropertyEditorDropDownStringList : public virtual IInterface {
   TARVO_INTERFACE(IPropertyEditorDropDownStringList, IInterface, "{00E16386-0F34-4CAE-9CFA-85AEC8707DD0}")

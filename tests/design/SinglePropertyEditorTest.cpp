@@ -468,5 +468,13 @@ TEST_F(SinglePropertyEditorTest, SubclassSetupRunsOnceAndListenersHearRefreshInO
   EXPECT_EQ(GSpeLog.back(), "shown Level");
 }
 
+TEST(PropertyEditorsTest, ListOfEditorsAnswersItsOwnInterface) {
+  const TRef<IArrayList<TRef<IPropertyEditor>>> list = New<TPropertyEditors>();
+  TRef<IPropertyEditors> editors;
+  ASSERT_TRUE(Supports(list, editors));
+  EXPECT_EQ(editors->GetCount(), 0);
+  EXPECT_TRUE(Supports<IList>(editors)); // still an array list underneath
+}
+
 } // namespace
 } // namespace Tarvo
