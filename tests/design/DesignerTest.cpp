@@ -145,25 +145,22 @@ TEST_F(DesignerSelectionTest, NilLeavesAnEmptyListAndCallersGetCopies) {
 
 using DesignerUpdateTest = DesignerTest;
 
-// The edges are announced outside the count: what a listener does there is heard.
+// The edges are announced outside the count: what a listener does there is heard. (An empty
+// bracket is announced too: see the notices table.)
 TEST_F(DesignerUpdateTest, NestedBracketsAnnounceOnceAtTheOuterEdges) {
   Listen(Designer, "A");
   Listen(Designer, "B")->OnEvent = [this](const String& AOperation) {
     if (AOperation != "RefreshView") Designer->RefreshView();
   };
-  for (const bool changeInside : {false, true}) {
-    Designer->BeginUpdate();
-    Designer->BeginUpdate();
-    if (changeInside) Designer->SetSelection(ListOf({&C}));
-    Designer->EndUpdate();
-    const TLog begun{"A:SelectionChangingBegin", "B:SelectionChangingBegin", "A:RefreshView", "B:RefreshView"};
-    EXPECT_EQ(Log, begun);
-    Designer->EndUpdate();
-    TLog ended = begun;
-    ended.insert(ended.end(), {"A:SelectionChanged", "B:SelectionChanged", "A:RefreshView", "B:RefreshView"});
-    EXPECT_EQ(Log, ended) << "changed inside: " << changeInside;
-    Log.clear();
-  }
+  Designer->BeginUpdate();
+  Designer->BeginUpdate();
+  Designer->SetSelection(ListOf({&C}));
+  Designer->EndUpdate();
+  TLog expected{"A:SelectionChangingBegin", "B:SelectionChangingBegin", "A:RefreshView", "B:RefreshView"};
+  EXPECT_EQ(Log, expected);
+  Designer->EndUpdate();
+  expected.insert(expected.end(), {"A:SelectionChanged", "B:SelectionChanged", "A:RefreshView", "B:RefreshView"});
+  EXPECT_EQ(Log, expected);
 }
 
 // A nested designer forwards every notice and the listeners to the designer it wraps.

@@ -163,11 +163,10 @@ TEST(DesignComponentsTest, DynamicElementsByBaseClass) {
   RegisterDynamicElement(filter, butterworth);
   RegisterDynamicElement(filter, lowPass);
 
-  struct TRow {
+  const struct {
     TClass Base;
     TClasses Expected;
-  };
-  const TRow rows[] = {
+  } rows[] = {
       {filter, {lowPass, highPass, butterworth}},
       // An ancestor's elements that the member can hold, with its own, in registration order.
       {lowPass, {lowPass, butterworth}},
@@ -176,7 +175,7 @@ TEST(DesignComponentsTest, DynamicElementsByBaseClass) {
       {TDesignTestComponent::ClassInfo(), {}},
       {nullptr, {}},
   };
-  for (const TRow& row : rows) {
+  for (const auto& row : rows) {
     SCOPED_TRACE(row.Base ? row.Base->ClassName() : "nil");
     EXPECT_EQ(GetDynamicElementsFor(row.Base)->ToArray(), row.Expected);
   }
@@ -216,11 +215,10 @@ TEST(DesignComponentsTest, UnloadSweepsAModulesClasses) {
 }
 
 TEST(DesignComponentsTest, CategoriesBuiltThroughTheirClass) {
-  struct TRow {
+  const struct {
     TMemberCategoryClass Class;
     const char* Name;
-  };
-  const TRow rows[] = {
+  } rows[] = {
       {TVisualMemberCategory::ClassInfo(), "Visual"},
       {TLayoutMemberCategory::ClassInfo(), "Layout"},
       {TBehaviorMemberCategory::ClassInfo(), "Behavior"},
@@ -232,11 +230,10 @@ TEST(DesignComponentsTest, CategoriesBuiltThroughTheirClass) {
       {TLocalizableMemberCategory::ClassInfo(), "Localizable"},
       {TMiscellaneousMemberCategory::ClassInfo(), "Miscellaneous"},
   };
-  for (const TRow& row : rows) {
+  for (const auto& row : rows) {
     const TRef<IMemberCategory> category = CreateMemberCategory(row.Class);
     EXPECT_EQ(ObjectOf(category)->ClassType(), row.Class.get()) << row.Name;
     EXPECT_EQ(category->GetName(), row.Name);
-    EXPECT_EQ(category->GetBitmapName(), "");
   }
 
   EXPECT_THROW((void)CreateMemberCategory(TMemberCategory::ClassInfo()), EInvalidCast);
