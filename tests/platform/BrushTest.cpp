@@ -64,7 +64,9 @@ TEST(HatchBrushTest, EveryStyleShowsBothColoursAndPercentStylesGrowDarker) {
     EXPECT_TRUE(fore > 0 && fore < 64 && fore + back == 64) << "style " << style << ": " << fore << " of " << fore + back;
     if (style >= hs05Percent && style <= hs90Percent) {
       EXPECT_GT(fore, previous) << "style " << style;
-      if (exact.contains(style)) EXPECT_EQ(fore, exact.at(style)) << "style " << style;
+      if (exact.contains(style)) {
+        EXPECT_EQ(fore, exact.at(style)) << "style " << style;
+      }
       previous = fore;
     }
   }

@@ -69,7 +69,9 @@ TEST(SysUtilsIntegerTest, TryStrToInt) {
   for (const auto& r : rows) {
     Integer value = 12345;
     EXPECT_EQ(TryStrToInt(r.Text, value), r.Ok) << r.Text;
-    if (r.Ok) EXPECT_EQ(value, r.Value) << r.Text;
+    if (r.Ok) {
+      EXPECT_EQ(value, r.Value) << r.Text;
+    }
   }
 }
 
