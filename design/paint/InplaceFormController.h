@@ -8,6 +8,7 @@
 
 #include <memory>
 
+#include "design/Interfaced.h"
 #include "containers/ArrayList.h"
 #include "design/paint/EditorPaint.h"
 #include "platform/ControlColor.h"
@@ -30,7 +31,7 @@ public:
 
 // The form's own life decides: when its parent takes it down first, the handle answers as for no
 // form; when the handle goes first, it takes the form with it.
-class TInplaceForm : public TImplements<TInterfacedObject, IInplaceForm> {
+class TInplaceForm : public TImplements<TInterfaced, IInplaceForm> {
 public:
   TInplaceForm(QWidget* AInplaceForm, TRef<IMemberUIUpdate> AUIUpdate);
   ~TInplaceForm() override;
@@ -72,7 +73,7 @@ public:
 };
 
 template <class F> class TInplaceEditorFormController
-    : public TImplements<TInterfacedObject, IInplaceEditorFormController<F>> {
+    : public TImplements<TInterfaced, IInplaceEditorFormController<F>> {
 public:
   // Makes a new form, unparented, for the rectangle it will open at.
   using TMakeFormInstance = TFunc<TIGXRect, F*>;

@@ -3,6 +3,7 @@
 // The host hands its own set to every paint call; GetDesignPaintObjects gives one for painting
 // outside such a call.
 
+#include "design/Interfaced.h"
 #include "containers/Common.h"
 #include "platform/GXBrushes.h"
 #include "platform/GXFonts.h"
@@ -49,7 +50,7 @@ public:
   virtual TRef<IInterface> GetHostObject(Integer APlace) = 0;
 };
 
-class TPaintObjectSet : public TImplements<TInterfacedObject, IPaintObjectSet> {
+class TPaintObjectSet : public TImplements<TInterfaced, IPaintObjectSet> {
 public:
   // The brushes take the colours with system colours resolved now; the colours stay as given.
   TPaintObjectSet(TColor ABkgColor, TColor AFontColor);
@@ -68,7 +69,7 @@ private:
 };
 
 // Plain rows in window colours; selected and highlighted rows share one highlight set.
-class TItemObjectSet : public TImplements<TInterfacedObject, IItemObjectSet> {
+class TItemObjectSet : public TImplements<TInterfaced, IItemObjectSet> {
 public:
   TItemObjectSet();
 
@@ -82,7 +83,7 @@ private:
   TRef<IPaintObjectSet> FHighlighted;
 };
 
-class TPaintObjects : public TImplements<TInterfacedObject, IPaintObjects> {
+class TPaintObjects : public TImplements<TInterfaced, IPaintObjects> {
 public:
   static constexpr const char* DefaultFontFamily = "Microsoft Sans Serif";
   static constexpr Single DefaultFontSize = 8.0f;

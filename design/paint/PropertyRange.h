@@ -1,6 +1,7 @@
 #pragma once
 // The range of a numeric value, as the in-place forms scale their track bars by it.
 
+#include "design/Interfaced.h"
 #include "rtl/InterfacedObject.h"
 #include "rtl/Value.h"
 
@@ -14,7 +15,7 @@ public:
 };
 
 // A snapshot: later changes of the limits it was taken from do not reach it.
-class TPropertyRange : public TImplements<TInterfacedObject, IPropertyRange> {
+class TPropertyRange : public TImplements<TInterfaced, IPropertyRange> {
 public:
   TPropertyRange(TValue AMin, TValue AMax) : FMin(std::move(AMin)), FMax(std::move(AMax)) {}
 
