@@ -109,15 +109,9 @@ void TCollection::EndUpdate() {
 }
 
 void TCollection::Assign(TPersistent* ASource) {
-  const auto* source = dynamic_cast<const TCollection*>(ASource);
-  if (!source) {
-    inherited::Assign(ASource);
-    return;
-  }
-  if (source == this) return;
-  const TUpdateScope update(*this);
-  Clear();
-  for (TCollectionItem* item : source->FItems) Add()->Assign(item);
+  AssignContents<TCollection, inherited>(*this, ASource, [this](const TCollection& AFrom) {
+    for (TCollectionItem* item : AFrom.FItems) Add()->Assign(item);
+  });
 }
 
 void TCollection::Update(TCollectionItem*) {}

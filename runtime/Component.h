@@ -86,6 +86,21 @@ private:
   T& FTarget;
 };
 
+// The shape of Assign in a list-like persistent: a source of its own class replaces the
+// contents under one update bracket (assigning to itself does nothing); any other source goes
+// to the inherited Assign.
+template <class T, class TBase, class F> void AssignContents(T& ATarget, TPersistent* ASource, F ACopyFrom) {
+  const auto* source = dynamic_cast<const T*>(ASource);
+  if (!source) {
+    ATarget.TBase::Assign(ASource);
+    return;
+  }
+  if (source == &ATarget) return;
+  const TUpdateScope<T> update(ATarget);
+  ATarget.Clear();
+  ACopyFrom(*source);
+}
+
 TARVO_ENUM(TOperation, opInsert, opRemove)
 TARVO_ENUM(TComponentStateFlag, csLoading, csDesigning, csDestroying)
 TARVO_SET(TComponentState, TComponentStateFlag)

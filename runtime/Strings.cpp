@@ -119,15 +119,7 @@ void TStrings::SetCommaText(const String& AText) {
 }
 
 void TStrings::Assign(TPersistent* ASource) {
-  const auto* source = dynamic_cast<const TStrings*>(ASource);
-  if (!source) {
-    inherited::Assign(ASource);
-    return;
-  }
-  if (source == this) return;
-  const TUpdateScope update(*this);
-  Clear();
-  AddStrings(*source);
+  AssignContents<TStrings, inherited>(*this, ASource, [this](const TStrings& AFrom) { AddStrings(AFrom); });
 }
 
 int TStrings::CompareStrings(const String& A, const String& B) const { return CompareText(A, B); }

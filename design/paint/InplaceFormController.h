@@ -8,8 +8,8 @@
 
 #include <memory>
 
-#include "design/Interfaced.h"
 #include "containers/ArrayList.h"
+#include "design/Interfaced.h"
 #include "design/paint/EditorPaint.h"
 #include "platform/ControlColor.h"
 #include "platform/EventHook.h"

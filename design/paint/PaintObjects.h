@@ -3,8 +3,8 @@
 // The host hands its own set to every paint call; GetDesignPaintObjects gives one for painting
 // outside such a call.
 
-#include "design/Interfaced.h"
 #include "containers/Common.h"
+#include "design/Interfaced.h"
 #include "platform/GXBrushes.h"
 #include "platform/GXFonts.h"
 #include "platform/GXImages.h"
