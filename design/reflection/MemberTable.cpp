@@ -2,6 +2,8 @@
 
 #include <map>
 
+#include "design/reflection/RttiMembers.h"
+
 namespace Tarvo {
 
 namespace {
@@ -30,6 +32,9 @@ std::vector<TCustomAttribute*> TMemberEntry::AttributeList() const {
 void RegisterMemberTable(std::unique_ptr<TClassMemberTable> ATable) {
   const TClass cls = ATable->Class;
   MemberTableRegistry().Tables[cls] = std::move(ATable);
+  // A module's classes publish while it loads, and a registration hook may have asked for the
+  // type of one of them before its table came.
+  ReloadClassMembers(cls);
 }
 
 const TClassMemberTable* FindMemberTable(TClass AClass) {

@@ -61,7 +61,13 @@ private:
 class TRttiClassTypeInfo : public TImplements<TRttiTypeInfo, IClassTypeInfo, IDynamicTypeInfo> {
 public:
   explicit TRttiClassTypeInfo(TClass AClass) : TImplements(AClass->ClassTypeRecord()), FClass(AClass) {
-    if (const TClassMemberTable* table = FindMemberTable(AClass))
+    LoadOwnMembers();
+  }
+
+  // Takes the members from the class's table as it stands now.
+  void LoadOwnMembers() {
+    FOwnMembers.clear();
+    if (const TClassMemberTable* table = FindMemberTable(FClass))
       for (const auto& entry : table->Members) FOwnMembers.push_back(CreateMemberInfo(*entry));
   }
 
@@ -188,6 +194,11 @@ TRef<ITypeInfo> TTypeInfoHelper::TypeInfo(PTypeInfo ATypeRecord) {
     else slot = New<TRttiTypeInfo>(ATypeRecord);
   }
   return slot;
+}
+
+void ReloadClassMembers(TClass AClass) {
+  const auto found = Cache().Types.find(AClass->ClassTypeRecord());
+  if (found != Cache().Types.end()) static_cast<TRttiClassTypeInfo*>(ObjectOf(found->second))->LoadOwnMembers();
 }
 
 TRef<IClassTypeInfo> TRttiObjectHelper::ClassTypeInfo(TClass AClass) {

@@ -1,0 +1,18 @@
+#include "host/inspect/InspectDesigner.h"
+
+namespace Tarvo {
+
+TRef<IStringArrayList> TInspectDesigner::GetComponentNames() {
+  const TRef<IStringArrayList> result = New<TStringArrayList>();
+  for (Integer i = 0; i < FRoot->ComponentCount(); ++i) result->Add(FRoot->Components(i)->GetName());
+  return result;
+}
+
+String TInspectDesigner::UniqueName(const String& ABaseName) {
+  for (Integer number = 1;; ++number) {
+    const String candidate = ABaseName + std::to_string(number);
+    if (!FRoot->FindComponent(candidate)) return candidate;
+  }
+}
+
+} // namespace Tarvo

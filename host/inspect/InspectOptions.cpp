@@ -1,0 +1,68 @@
+#include "host/inspect/InspectOptions.h"
+
+namespace Tarvo {
+
+const char* const InspectUsage =
+    "usage: tarvo-inspect [options]\n"
+    "Prints the object inspector's rows for the selected components of a design.\n"
+    "\n"
+    "  --design FILE          the design to open (default: the bundled sample design)\n"
+    "  --module FILE          load a further component module (repeatable)\n"
+    "  --select NAME[,NAME]   the components to select (default: the first one)\n"
+    "  --set PATH=TEXT        write TEXT through the row's editor (repeatable, in order)\n"
+    "  --reset PATH           reset the row to its default (repeatable, in order)\n"
+    "  --expand PATH          show the sub-rows of a row (repeatable)\n"
+    "  --expand-all           show the sub-rows of every row\n"
+    "  --json                 print the rows as JSON\n"
+    "  --list-classes         print the registered component classes and their pages\n"
+    "  --help                 print this text\n"
+    "\n"
+    "A PATH names a row by member names joined with \".\", as in Font.Size.\n"
+    "Markers after a row: * differs from the default, [ro] read-only, + expands.\n";
+
+namespace {
+
+std::vector<String> SplitNames(const String& AText) {
+  std::vector<String> names;
+  std::size_t start = 0;
+  while (true) {
+    const std::size_t comma = AText.find(',', start);
+    const String name = AText.substr(start, comma == String::npos ? String::npos : comma - start);
+    if (name.empty()) throw EInspectError("--select expects component names separated by \",\"");
+    names.push_back(name);
+    if (comma == String::npos) return names;
+    start = comma + 1;
+  }
+}
+
+} // namespace
+
+TInspectOptions ParseInspectOptions(const std::vector<String>& AArguments) {
+  TInspectOptions options;
+  for (std::size_t i = 0; i < AArguments.size(); ++i) {
+    const String& option = AArguments[i];
+    const auto argument = [&]() -> const String& {
+      if (i + 1 >= AArguments.size()) throw EInspectError(option + " expects an argument");
+      return AArguments[++i];
+    };
+    if (option == "--design") options.DesignFile = argument();
+    else if (option == "--module") options.Modules.push_back(argument());
+    else if (option == "--select") {
+      for (const String& name : SplitNames(argument())) options.Select.push_back(name);
+    } else if (option == "--set") {
+      const String& assignment = argument();
+      const std::size_t equals = assignment.find('=');
+      if (equals == String::npos || equals == 0) throw EInspectError("--set expects PATH=TEXT, not \"" + assignment + "\"");
+      options.Edits.push_back({TInspectEdit::ekSet, assignment.substr(0, equals), assignment.substr(equals + 1)});
+    } else if (option == "--reset") options.Edits.push_back({TInspectEdit::ekReset, argument(), String()});
+    else if (option == "--expand") options.Expand.push_back(argument());
+    else if (option == "--expand-all") options.ExpandAll = true;
+    else if (option == "--json") options.Json = true;
+    else if (option == "--list-classes") options.ListClasses = true;
+    else if (option == "--help" || option == "-h") options.Help = true;
+    else throw EInspectError("unknown option \"" + option + "\" (see --help)");
+  }
+  return options;
+}
+
+} // namespace Tarvo

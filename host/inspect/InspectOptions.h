@@ -1,0 +1,33 @@
+#pragma once
+// The command line of tarvo-inspect.
+
+#include <vector>
+
+#include "host/inspect/Inspector.h"
+
+namespace Tarvo {
+
+struct TInspectEdit {
+  enum TKind { ekSet, ekReset } Kind;
+  String Path;
+  String Text; // for ekSet
+};
+
+struct TInspectOptions {
+  String DesignFile;             // empty: the bundled sample design
+  std::vector<String> Modules;   // loaded after the sample module
+  std::vector<String> Select;    // empty: the first component of the design
+  std::vector<TInspectEdit> Edits; // in command-line order
+  std::vector<String> Expand;
+  Boolean ExpandAll = false;
+  Boolean Json = false;
+  Boolean ListClasses = false;
+  Boolean Help = false;
+};
+
+extern const char* const InspectUsage;
+
+// Raises EInspectError for an unknown option or a missing or malformed argument.
+TInspectOptions ParseInspectOptions(const std::vector<String>& AArguments);
+
+} // namespace Tarvo

@@ -1,0 +1,90 @@
+#include "host/inspect/InspectSession.h"
+
+#include <nlohmann/json.hpp>
+
+#include "host/inspect/InspectDesigner.h"
+#include "host/inspect/RowWriters.h"
+#include "package/PackageEntry.h"
+#include "rtl/Module.h"
+#include "runtime/DesignFile.h"
+
+namespace Tarvo {
+
+namespace {
+
+struct TPackageScope {
+  TPackageScope() { Initialize(); }
+  ~TPackageScope() { Finalize(); }
+  TPackageScope(const TPackageScope&) = delete;
+  TPackageScope& operator=(const TPackageScope&) = delete;
+};
+
+// Unloads the modules it loaded, the last first.
+class TModulesScope {
+public:
+  TModulesScope() = default;
+  TModulesScope(const TModulesScope&) = delete;
+  TModulesScope& operator=(const TModulesScope&) = delete;
+  ~TModulesScope() {
+    for (auto module = FModules.rbegin(); module != FModules.rend(); ++module) UnloadModule(*module);
+  }
+  void Load(const String& APath) { FModules.push_back(LoadModule(APath)); }
+
+private:
+  std::vector<TModule*> FModules;
+};
+
+String ClassesText(Boolean AJson) {
+  nlohmann::ordered_json json = nlohmann::ordered_json::array();
+  String text;
+  for (const TClass componentClass : GetRegisteredComponents()->ToArray()) {
+    const String page = GetComponentPage(componentClass);
+    json.push_back({{"class", componentClass->ClassName()}, {"page", page}});
+    text += String(componentClass->ClassName()) + " (" + page + ")\n";
+  }
+  return AJson ? json.dump(2) + "\n" : text;
+}
+
+void Select(IDesigner& ADesigner, TComponent* ARoot, const std::vector<String>& ANames) {
+  const TRef<IObjectArrayList> selection = New<TObjectArrayList>();
+  for (const String& name : ANames) {
+    TComponent* component = ARoot->FindComponent(name);
+    if (!component) throw EInspectError("no component named \"" + name + "\" in the design");
+    selection->Add(component);
+  }
+  if (ANames.empty()) {
+    if (ARoot->ComponentCount() == 0) throw EInspectError("the design has no components");
+    selection->Add(ARoot->Components(0));
+  }
+  ADesigner.SetSelection(selection);
+}
+
+} // namespace
+
+String RunInspect(const TInspectOptions& AOptions, const TInspectPaths& APaths) {
+  const TPackageScope package;
+  TModulesScope modules;
+  modules.Load(APaths.SampleModule);
+  for (const String& path : AOptions.Modules) modules.Load(path);
+  if (AOptions.ListClasses) return ClassesText(AOptions.Json);
+
+  // The root goes before the modules that hold the classes of its components.
+  const TOwnedObject<TComponent> root(
+      TComponentHelper::CreateComponent(TComponent::ClassInfo(), nullptr, true, false));
+  ReadDesignFile(AOptions.DesignFile.empty() ? APaths.SampleDesign : AOptions.DesignFile, root.get());
+  const TRef<IDesigner> designer = New<TInspectDesigner>(root.get());
+  Select(*designer, root.get(), AOptions.Select);
+
+  TInspector inspector(designer);
+  inspector.Refresh();
+  for (const TInspectEdit& edit : AOptions.Edits) {
+    if (edit.Kind == TInspectEdit::ekSet) inspector.SetValue(edit.Path, edit.Text);
+    else inspector.ResetValue(edit.Path);
+    inspector.Refresh();
+  }
+  for (const String& path : AOptions.Expand) inspector.Expand(inspector.Find(path));
+  if (AOptions.ExpandAll) inspector.ExpandAll();
+  return AOptions.Json ? RowsToJson(inspector.Rows()) : RowsToText(inspector.Rows());
+}
+
+} // namespace Tarvo

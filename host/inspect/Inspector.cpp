@@ -1,0 +1,158 @@
+#include "host/inspect/Inspector.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <unordered_set>
+
+#include "design/Registry.h"
+#include "rtl/SysUtils.h"
+
+namespace Tarvo {
+
+namespace {
+
+// The members of the first object whose names every other selected object has as well. Objects
+// of one class are looked at once.
+std::vector<TRef<IMemberInfo>> CommonMembers(const TRef<IObjectArrayList>& ASelection) {
+  std::vector<TRef<IMemberInfo>> result;
+  if (ASelection->GetCount() == 0) return result;
+  for (const TRef<IMemberInfo>& member : TRttiObjectHelper::TypeInfo(ASelection->GetItem(0), true)->GetAllMembers())
+    result.push_back(member);
+  std::unordered_set<TClass> seen{ASelection->GetItem(0)->ClassType()};
+  for (TObject* object : ASelection) {
+    if (!seen.insert(object->ClassType()).second) continue;
+    std::unordered_set<String> names;
+    for (const TRef<IMemberInfo>& member : TRttiObjectHelper::TypeInfo(object, true)->GetAllMembers())
+      names.insert(member->GetName());
+    std::erase_if(result, [&](const TRef<IMemberInfo>& AMember) { return !names.contains(AMember->GetName()); });
+  }
+  return result;
+}
+
+String JoinPath(const String& AParentPath, const String& AName) {
+  return AParentPath.empty() ? AName : AParentPath + "." + AName;
+}
+
+} // namespace
+
+void SortRows(std::vector<TInspectorRow>& ARows) {
+  std::vector<std::size_t> slots;
+  std::vector<TInspectorRow> sortable;
+  for (std::size_t i = 0; i < ARows.size(); ++i)
+    if (ARows[i].Editor->GetIsSortable()) {
+      slots.push_back(i);
+      sortable.push_back(std::move(ARows[i]));
+    }
+  std::stable_sort(sortable.begin(), sortable.end(),
+                   [](const TInspectorRow& A, const TInspectorRow& B) { return CompareText(A.Name, B.Name) < 0; });
+  for (std::size_t i = 0; i < slots.size(); ++i) ARows[slots[i]] = std::move(sortable[i]);
+}
+
+TObject* TInspector::FirstSelected() {
+  const TRef<IObjectArrayList> selection = FDesigner->GetRootSelection();
+  return selection->GetCount() > 0 ? selection->GetItem(0) : nullptr;
+}
+
+bool TInspector::MakeRow(const TRef<IMemberInfo>& AMember, TObject* ALookupObject, TMemberEditor* AParentEditor,
+                         const String& AParentPath, TInspectorRow& ARow) {
+  TRef<IArrayList<TMemberEditorClass>> classes;
+  if (!GetMemberEditorClasses(AMember, ALookupObject, classes)) return false;
+  TMemberEditor* editor =
+      classes->GetItem(0).Create(nullptr, AParentEditor, FDesigner, nullptr, AMember->GetName(), AMember);
+  ARow.Editor = TRef<IMemberEditor>(editor);
+  if (!ARow.Editor->GetIsVisible()) return false;
+  ReadRow(ARow, AParentPath);
+  return true;
+}
+
+void TInspector::ReadRow(TInspectorRow& ARow, const String& AParentPath) {
+  const TRef<IMemberEditor>& editor = ARow.Editor;
+  ARow.Name = editor->GetName();
+  ARow.Path = JoinPath(AParentPath, ARow.Name);
+  ARow.DisplayName = editor->GetDisplayName();
+  ARow.EditorName = editor->GetEditorName();
+  ARow.ReadOnly = editor->GetIsReadOnly();
+  ARow.Expandable = editor->GetIsExpandable();
+  if (TRef<IPropertyEditor> property; Supports(editor, property)) {
+    ARow.Value = property->GetIsWriteOnly() ? String() : property->GetDisplayValue(nullptr);
+    ARow.IsDefault = property->GetIsAllDefault();
+  } else if (TRef<IMethodEditor> method; Supports(editor, method)) {
+    ARow.Value = method->GetFunctionParamString();
+  }
+}
+
+void TInspector::Refresh() {
+  FRows.clear();
+  TObject* first = FirstSelected();
+  for (const TRef<IMemberInfo>& member : CommonMembers(FDesigner->GetRootSelection())) {
+    TInspectorRow row;
+    if (MakeRow(member, first, nullptr, String(), row)) FRows.push_back(std::move(row));
+  }
+  SortRows(FRows);
+}
+
+void TInspector::Expand(TInspectorRow& ARow) {
+  if (ARow.Expanded) return;
+  if (!ARow.Expandable) throw EInspectError("row \"" + ARow.Path + "\" does not expand");
+  ARow.Expanded = true;
+  if (TRef<ISubPropertyEditors> subEditors; Supports(ARow.Editor, subEditors)) {
+    for (const TRef<IPropertyEditor>& editor : subEditors->GetPropertyEditors()) {
+      TInspectorRow child;
+      child.Editor = editor;
+      if (!editor->GetIsVisible()) continue;
+      ReadRow(child, ARow.Path);
+      ARow.Children.push_back(std::move(child));
+    }
+  } else if (TRef<IMembersInfo> members; ARow.Editor->GetSubMembers(members, true)) {
+    TMemberEditor* parent = ARow.Editor->GetInstance();
+    TObject* first = FirstSelected();
+    TObject* lookupObject = first ? parent->GetValueForRootInstance(first) : nullptr;
+    for (const TRef<IMemberInfo>& member : members) {
+      TInspectorRow child;
+      if (MakeRow(member, lookupObject, parent, ARow.Path, child)) ARow.Children.push_back(std::move(child));
+    }
+  }
+  SortRows(ARow.Children);
+}
+
+void TInspector::ExpandDown(TInspectorRow& ARow, Integer ADepth) {
+  if (!ARow.Expandable || ADepth >= MaxExpandDepth) return;
+  Expand(ARow);
+  for (TInspectorRow& child : ARow.Children) ExpandDown(child, ADepth + 1);
+}
+
+void TInspector::ExpandAll() {
+  for (TInspectorRow& row : FRows) ExpandDown(row, 0);
+}
+
+TInspectorRow& TInspector::Find(const String& APath) {
+  std::vector<TInspectorRow>* rows = &FRows;
+  TInspectorRow* found = nullptr;
+  std::size_t start = 0;
+  while (true) {
+    const std::size_t dot = APath.find('.', start);
+    const String name = APath.substr(start, dot == String::npos ? String::npos : dot - start);
+    const auto match = std::find_if(rows->begin(), rows->end(), [&](const TInspectorRow& ARow) { return SameText(ARow.Name, name); });
+    if (match == rows->end()) throw EInspectError("no row \"" + APath + "\"");
+    found = &*match;
+    if (dot == String::npos) return *found;
+    if (!found->Expandable) throw EInspectError("no row \"" + APath + "\": \"" + found->Path + "\" does not expand");
+    Expand(*found);
+    rows = &found->Children;
+    start = dot + 1;
+  }
+}
+
+TRef<IPropertyEditor> TInspector::ValueEditor(const String& APath) {
+  TInspectorRow& row = Find(APath);
+  TRef<IPropertyEditor> editor;
+  if (!Supports(row.Editor, editor)) throw EInspectError("row \"" + row.Path + "\" has no value");
+  if (editor->GetIsReadOnly()) throw EInspectError("row \"" + row.Path + "\" is read-only");
+  return editor;
+}
+
+void TInspector::SetValue(const String& APath, const String& AText) { ValueEditor(APath)->SetStringValue(AText); }
+
+void TInspector::ResetValue(const String& APath) { ValueEditor(APath)->ResetValue(); }
+
+} // namespace Tarvo

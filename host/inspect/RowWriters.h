@@ -1,0 +1,17 @@
+#pragma once
+// The inspector's rows as text for people and as JSON for programs.
+//
+// Text: one row a line, two blanks of indent a level, "name = value", then the markers of the
+// row: "*" when a selected object differs from the default, "[ro]" when read-only, "+" when the
+// row expands. A line break inside a value shows as "\n".
+
+#include "host/inspect/Inspector.h"
+
+namespace Tarvo {
+
+String RowsToText(const std::vector<TInspectorRow>& ARows);
+// An array of objects with path, name, display_name, value, editor, default, read_only,
+// expandable and children.
+String RowsToJson(const std::vector<TInspectorRow>& ARows);
+
+} // namespace Tarvo

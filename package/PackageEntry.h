@@ -1,0 +1,27 @@
+#pragma once
+// What a host finds in the package by name: the table of its units and the two calls that start
+// and stop them. A unit reached twice starts on the first initialisation and stops on the last
+// finalisation, so hosts and tests may balance the calls as they like.
+
+extern "C" {
+
+// One unit of the package. Counter is the start-up guard: 0 while the unit is down.
+struct TPackageUnitEntry {
+  const char* Name;
+  void (*Init)();   // nil for a unit with nothing to set up
+  void (*FInit)();  // nil for a unit with nothing to tear down
+  int Counter;
+};
+
+struct TPackageInfoTable {
+  int UnitCount;
+  TPackageUnitEntry* Units;
+};
+
+// The units in the order they start.
+TPackageInfoTable* GetPackageInfoTable();
+// Runs each unit's initialisation in table order.
+void Initialize();
+// Runs each unit's finalisation in reverse table order.
+void Finalize();
+}

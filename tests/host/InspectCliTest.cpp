@@ -1,0 +1,102 @@
+// tarvo-inspect as a user runs it: its output, its JSON, and its answer to bad input.
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "rtl/Types.h"
+
+namespace Tarvo {
+namespace {
+
+struct TToolRun {
+  int ExitCode = -1;
+  String Out;
+  String Err;
+};
+
+TToolRun RunTool(const String& AArguments) {
+  const String errPath = testing::TempDir() + "tarvo-inspect-stderr.txt";
+  const String command = String(TARVO_INSPECT_PATH) + " " + AArguments + " 2>" + errPath;
+  TToolRun run;
+  FILE* pipe = popen(command.c_str(), "r");
+  char buffer[4096];
+  while (std::size_t read = std::fread(buffer, 1, sizeof buffer, pipe)) run.Out.append(buffer, read);
+  const int status = pclose(pipe);
+  run.ExitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  std::stringstream err;
+  err << std::ifstream(errPath).rdbuf();
+  run.Err = err.str();
+  return run;
+}
+
+TEST(InspectCliTest, TwoComponentsOfOneClassShowTheirRowsWithMarkers) {
+  const TToolRun run = RunTool("--select Generator1,Generator2");
+  ASSERT_EQ(run.ExitCode, 0) << run.Err;
+  EXPECT_EQ(run.Err, "");
+  EXPECT_NE(run.Out.find("\nFrequency = 440;1000  *\n"), String::npos) << run.Out;
+  EXPECT_NE(run.Out.find("\nPeakToPeak = 1.6;2  * [ro]\n"), String::npos) << run.Out;
+  EXPECT_NE(run.Out.find("\nPhase (degrees) = 0;90  *\n"), String::npos) << run.Out;
+  EXPECT_EQ(run.Out.find("NoiseSeed"), String::npos);
+}
+
+TEST(InspectCliTest, WritesGoThroughTheEditorsBeforeTheRowsArePrinted) {
+  const TToolRun run = RunTool("--select Filter1 --set Cutoff=1200 --set Order=3 --reset GainDb");
+  ASSERT_EQ(run.ExitCode, 0) << run.Err;
+  EXPECT_NE(run.Out.find("\nCutoff = 1200  *\n"), String::npos) << run.Out;
+  EXPECT_NE(run.Out.find("\nOrder = 3  *\n"), String::npos) << run.Out;
+  EXPECT_NE(run.Out.find("\nGainDb = 0\n"), String::npos) << run.Out;
+  // A multi-line text stays on its row.
+  EXPECT_NE(run.Out.find("Description = Band-pass for the test tone.\\nKeeps"), String::npos) << run.Out;
+}
+
+TEST(InspectCliTest, JsonRowsCarryEveryFieldOfTheRow) {
+  const TToolRun run = RunTool("--select Generator1 --json");
+  ASSERT_EQ(run.ExitCode, 0) << run.Err;
+  const nlohmann::json rows = nlohmann::json::parse(run.Out);
+  ASSERT_TRUE(rows.is_array());
+  const auto phase = std::find_if(rows.begin(), rows.end(), [](const nlohmann::json& ARow) { return ARow["name"] == "Phase"; });
+  ASSERT_NE(phase, rows.end());
+  const char* expected = R"json({"path": "Phase", "name": "Phase", "display_name": "Phase (degrees)", "value": "0",
+      "editor": "TSinglePropertyEditor", "default": true, "read_only": false, "expandable": false, "children": []})json";
+  EXPECT_EQ(*phase, nlohmann::json::parse(expected));
+}
+
+TEST(InspectCliTest, ListsTheRegisteredClassesWithTheirPages) {
+  const TToolRun run = RunTool("--list-classes");
+  ASSERT_EQ(run.ExitCode, 0) << run.Err;
+  EXPECT_EQ(run.Out, "TSignalFilter (Signal)\nTSignalGenerator (Signal)\nTSignalScope (Signal)\n");
+}
+
+TEST(InspectCliTest, BadInputIsOneClearMessageWithExitCodeTwoAndNothingPrinted) {
+  const String design = testing::TempDir() + "tarvo-inspect-bad-design.json";
+  std::ofstream(design) << R"({"components": [{"class": "TSignalGenerator", "name": "G", "properties": {"Pitch": "1"}}]})";
+  const struct {
+    String Arguments;
+    String Message;
+  } cases[] = {
+      {"--frob", "unknown option \"--frob\" (see --help)"},
+      {"--select", "--select expects an argument"},
+      {"--select A,,B", "--select expects component names separated by \",\""},
+      {"--set Frequency", "--set expects PATH=TEXT, not \"Frequency\""},
+      {"--select Nobody", "no component named \"Nobody\" in the design"},
+      {"--set Bogus=1", "no row \"Bogus\""},
+      {"--set PeakToPeak=3", "row \"PeakToPeak\" is read-only"},
+      {"--expand Frequency", "row \"Frequency\" does not expand"},
+      {"--set Frequency=-5", "Frequency must not be negative: -5"},
+      {"--design " + design, design + ": Unknown property 'Pitch' of component 'G' (TSignalGenerator)"},
+  };
+  for (const auto& bad : cases) {
+    const TToolRun run = RunTool(bad.Arguments);
+    EXPECT_EQ(run.ExitCode, 2) << bad.Arguments;
+    EXPECT_EQ(run.Err, "error: " + bad.Message + "\n") << bad.Arguments;
+    EXPECT_EQ(run.Out, "") << bad.Arguments;
+  }
+}
+
+} // namespace
+} // namespace Tarvo

@@ -1,0 +1,159 @@
+// The inspector's rows over the sample design, in process: which rows the package gives, what
+// they show over one and over several objects, and how writes and sub-rows go through editors.
+#include <gtest/gtest.h>
+
+#include "design/Registry.h"
+#include "host/inspect/InspectDesigner.h"
+#include "host/inspect/Inspector.h"
+#include "package/PackageEntry.h"
+#include "rtl/Module.h"
+#include "runtime/DesignFile.h"
+#include "runtime/Graphics.h"
+
+namespace Tarvo {
+
+// Expands a font into its published members, as a class editor would.
+class TInspectTestFontEditor : public TSinglePropertyEditor {
+  TARVO_CLASS(TInspectTestFontEditor, TSinglePropertyEditor)
+public:
+  using TSinglePropertyEditor::TSinglePropertyEditor;
+  Boolean GetIsExpandable() override { return true; }
+  Boolean GetSubMembers(TRef<IMembersInfo>& AResult, Boolean) override {
+    AResult = TRttiObjectHelper::ClassTypeInfo(TFont::ClassInfo())->GetMembers(mvsPublished);
+    return true;
+  }
+  TObject* GetValueForDirectInstance(TObject* AObject) override { return GetValueMember(AObject)->GetValue(AObject).AsObject(); }
+};
+TARVO_IMPLEMENT_CLASS(TInspectTestFontEditor)
+
+namespace {
+
+class InspectorTest : public testing::Test {
+protected:
+  void SetUp() override {
+    Initialize();
+    FModule = LoadModule(TARVO_SAMPLES_MODULE_PATH);
+    FRoot.reset(TComponentHelper::CreateComponent(TComponent::ClassInfo(), nullptr, true, false));
+    ReadDesignFile(TARVO_SAMPLE_DESIGN, FRoot.get());
+    FDesigner = New<TInspectDesigner>(FRoot.get());
+    FInspector = TInspector(FDesigner);
+  }
+  void TearDown() override {
+    FInspector = TInspector(nullptr);
+    FDesigner = nullptr;
+    FRoot.reset();
+    UnloadModule(FModule);
+    Finalize();
+  }
+
+  TInspector& Select(std::initializer_list<const char*> ANames) {
+    const TRef<IObjectArrayList> selection = New<TObjectArrayList>();
+    for (const char* name : ANames) selection->Add(FRoot->FindComponent(name));
+    FDesigner->SetSelection(selection);
+    FInspector.Refresh();
+    return FInspector;
+  }
+  std::vector<String> Names() {
+    std::vector<String> names;
+    for (const TInspectorRow& row : FInspector.Rows()) names.push_back(row.Name);
+    return names;
+  }
+  bool HasRow(const String& AName) { return std::ranges::count(Names(), AName) == 1; }
+
+  TModule* FModule = nullptr;
+  TOwnedObject<TComponent> FRoot;
+  TRef<IDesigner> FDesigner;
+  TInspector FInspector{nullptr};
+};
+
+TEST_F(InspectorTest, RowsAreTheMembersThePackageGivesAVisibleEditorSortedByName) {
+  Select({"Generator1"});
+  const std::vector<String> names = Names();
+  EXPECT_TRUE(std::is_sorted(names.begin(), names.end()));
+  for (const char* shown : {"Frequency", "Waveform", "OnStart", "Start", "Advance", "PeakToPeak"}) EXPECT_TRUE(HasRow(shown)) << shown;
+  // Hidden by attribute, protected, private.
+  for (const char* absent : {"NoiseSeed", "Running", "StartCount"}) EXPECT_FALSE(HasRow(absent)) << absent;
+
+  const TInspectorRow& phase = FInspector.Find("phase");
+  EXPECT_EQ(phase.DisplayName, "Phase (degrees)");
+  EXPECT_EQ(phase.EditorName, "TSinglePropertyEditor");
+  EXPECT_TRUE(phase.IsDefault);
+  EXPECT_FALSE(phase.ReadOnly);
+  EXPECT_EQ(FInspector.Find("OnStart").EditorName, "TEventPropertyEditor");
+  const TInspectorRow& advance = FInspector.Find("Advance");
+  EXPECT_EQ(advance.EditorName, "TMethodEditor");
+  EXPECT_EQ(advance.Value, "(ACount: Cardinal)");
+  EXPECT_TRUE(FInspector.Find("PeakToPeak").ReadOnly);
+}
+
+TEST_F(InspectorTest, ControlsShowNoneOfTheMembersTheDesignerPlacesOnTheSurface) {
+  Select({"TriggerMark"});
+  for (const char* absent : {"Left", "Top", "Width", "Height", "Tag", "Align", "Anchors", "PopupMenu"})
+    EXPECT_FALSE(HasRow(absent)) << absent;
+  EXPECT_EQ(FInspector.Find("Shape").Value, "stCircle");
+}
+
+TEST_F(InspectorTest, SeveralObjectsShowOneTextWhenTheyAgreeAndAllTextsWhenNot) {
+  Select({"Generator1", "Generator2"});
+  EXPECT_EQ(FInspector.Find("Frequency").Value, "440;1000");
+  EXPECT_FALSE(FInspector.Find("Frequency").IsDefault);
+  EXPECT_EQ(FInspector.Find("Waveform").Value, "wfSine;wfSquare");
+  EXPECT_EQ(FInspector.Find("SampleRate").Value, "48000;44100");
+
+  FInspector.SetValue("Frequency", "1500");
+  FInspector.Refresh();
+  EXPECT_EQ(FInspector.Find("Frequency").Value, "1500");
+  FInspector.ResetValue("Frequency");
+  FInspector.Refresh();
+  EXPECT_EQ(FInspector.Find("Frequency").Value, "440");
+  EXPECT_TRUE(FInspector.Find("Frequency").IsDefault);
+}
+
+TEST_F(InspectorTest, OnlyMembersThatEverySelectedObjectHasGetRows) {
+  Select({"Generator1", "Filter1"});
+  EXPECT_TRUE(HasRow("Name"));
+  EXPECT_FALSE(HasRow("Frequency"));
+  EXPECT_FALSE(HasRow("Cutoff"));
+}
+
+TEST_F(InspectorTest, BadPathsAndReadOnlyRowsAreRefusedByName) {
+  Select({"Generator1"});
+  const auto message = [&](auto AAction) -> String {
+    try {
+      AAction();
+    } catch (const EInspectError& error) {
+      return error.Message();
+    }
+    return "no error";
+  };
+  EXPECT_EQ(message([&] { FInspector.SetValue("Bogus", "1"); }), "no row \"Bogus\"");
+  EXPECT_EQ(message([&] { FInspector.SetValue("PeakToPeak", "1"); }), "row \"PeakToPeak\" is read-only");
+  EXPECT_EQ(message([&] { FInspector.SetValue("OnStart", "x"); }), "row \"OnStart\" has no value");
+  EXPECT_EQ(message([&] { FInspector.Find("Frequency.Size"); }), "no row \"Frequency.Size\": \"Frequency\" does not expand");
+  EXPECT_EQ(message([&] { FInspector.Expand(FInspector.Find("Frequency")); }), "row \"Frequency\" does not expand");
+}
+
+TEST_F(InspectorTest, AnExpandingEditorGivesSubRowsThatWriteToTheValuesOfEverySelectedObject) {
+  RegisterPropertyEditor(TypeInfo<TFont*>(), TInspectTestFontEditor::ClassInfo());
+  Select({"Scope1", "TriggerMark"});
+  TInspectorRow& font = FInspector.Find("Font");
+  EXPECT_TRUE(font.Expandable);
+  FInspector.Expand(font);
+  std::vector<String> children;
+  for (const TInspectorRow& child : font.Children) children.push_back(child.Path);
+  EXPECT_EQ(children, (std::vector<String>{"Font.Charset", "Font.Color", "Font.Height", "Font.Name", "Font.Size", "Font.Style"}));
+
+  FInspector.SetValue("Font.Size", "14");
+  for (const char* name : {"Scope1", "TriggerMark"}) {
+    TRef<ISinglePropertyInfo> member;
+    TComponent* component = FRoot->FindComponent(name);
+    TRttiObjectHelper::TypeInfo(component, false)->FindSinglePropertyMember("Font", member);
+    EXPECT_EQ(static_cast<TFont*>(member->GetValue(component).AsObject())->GetSize(), 14) << name;
+  }
+  FInspector.Refresh();
+  FInspector.ExpandAll();
+  EXPECT_EQ(FInspector.Find("Font.Size").Value, "14");
+}
+
+} // namespace
+} // namespace Tarvo
