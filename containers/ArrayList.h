@@ -23,7 +23,7 @@ public:
   static TSelf CreateCopy(const TRef<IArrayList<T>>& AOther) {
     TARVO_ASSERT(AOther != nullptr);
     const TRef<TArrayList> result = New<TArrayList>();
-    AOther->Query()->ForEach([&result](const T& AItem) { result->Add(AItem); });
+    result->FList = AOther->ToArray();
     return result;
   }
   static TSelf CreateArray(const std::vector<T>& AOther) { return New<TArrayList>()->Append(AOther); }

@@ -2,6 +2,7 @@
 // Globally unique identifiers of interfaces, with their text form "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}".
 
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -24,9 +25,16 @@ struct TGUID {
 
   std::string ToString() const;
   constexpr bool IsEmpty() const { return *this == TGUID{}; }
-  friend constexpr bool operator==(const TGUID&, const TGUID&) = default;
+  // Every interface query compares identifiers, so this is two word compares.
+  friend constexpr bool operator==(const TGUID& A, const TGUID& B) {
+    using TWords = std::array<std::uint64_t, 2>;
+    const TWords a = std::bit_cast<TWords>(A);
+    const TWords b = std::bit_cast<TWords>(B);
+    return a[0] == b[0] && a[1] == b[1];
+  }
   friend constexpr auto operator<=>(const TGUID&, const TGUID&) = default;
 };
+static_assert(sizeof(TGUID) == 16, "an identifier is two words without padding");
 
 constexpr bool TGUID::TryParse(std::string_view AText, TGUID& AResult) {
   if (AText.size() == 38) {

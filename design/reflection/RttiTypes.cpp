@@ -9,6 +9,10 @@ namespace Tarvo {
 
 namespace {
 
+// Counts the member tables registered, so that what class types worked out from the tables before
+// a change is worked out again; starts above the generation of what was never worked out.
+std::uint64_t GMembersGeneration = 1;
+
 class TRttiTypeInfo : public TImplements<TObjectInfo, ITypeInfo, IOrdinalTypeInfo, IEnumerationTypeInfo, ISetTypeInfo> {
 public:
   explicit TRttiTypeInfo(PTypeInfo ARecord) : FRecord(ARecord) {}
@@ -105,12 +109,16 @@ public:
       }
   }
 
-  // The nearest table that says how instances add members.
-  const TClassMemberTable* DynamicTable() const {
-    for (TClass c = FClass; c; c = c->ClassParent())
+  // The nearest table that says how instances add members. Asked for every object the
+  // designer reads, so kept until a class takes a new table.
+  const TClassMemberTable* DynamicTable() {
+    if (FDynamicGeneration == GMembersGeneration) return FDynamicTable;
+    FDynamicTable = nullptr;
+    for (TClass c = FClass; c && !FDynamicTable; c = c->ClassParent())
       if (const TClassMemberTable* table = FindMemberTable(c); table && (table->DynamicMembers || table->InitInstance))
-        return table;
-    return nullptr;
+        FDynamicTable = table;
+    FDynamicGeneration = GMembersGeneration;
+    return FDynamicTable;
   }
 
 protected:
@@ -136,9 +144,10 @@ private:
 
   // The class's own members hide those of its ancestors; an instance's members come last.
   template <class I> bool Find(const String& AName, TRef<I>& AMember) {
-    for (TRttiClassTypeInfo* info = this; info; info = info->FClass->ClassParent() ? Of(info->FClass->ClassParent()) : nullptr)
-      for (const TRef<IMemberInfo>& member : info->FOwnMembers)
-        if (member->GetName() == AName && Supports(member, AMember)) return true;
+    const auto& index = NameIndex();
+    if (const auto found = index.find(AName); found != index.end())
+      for (const TRef<IMemberInfo>& member : found->second)
+        if (Supports(member, AMember)) return true;
     if (const TRef<IMembersInfo> dynamic = DynamicMembers())
       for (const TRef<IMemberInfo>& member : dynamic)
         if (member->GetName() == AName && Supports(member, AMember)) return true;
@@ -146,12 +155,29 @@ private:
     return false;
   }
 
-  static TRttiClassTypeInfo* Of(TClass AClass) {
-    return static_cast<TRttiClassTypeInfo*>(ObjectOf(TRttiObjectHelper::ClassTypeInfo(AClass)));
+  // The members of the class and its ancestors by name, in the order a search meets them. Built
+  // on first need, and again after any class took a new table.
+  const std::unordered_map<String, std::vector<TRef<IMemberInfo>>>& NameIndex() {
+    if (FIndexGeneration == GMembersGeneration) return FNameIndex;
+    FNameIndex.clear();
+    for (TRttiClassTypeInfo* info = this; info; info = info->FClass->ClassParent() ? Of(info->FClass->ClassParent()) : nullptr)
+      for (const TRef<IMemberInfo>& member : info->FOwnMembers) FNameIndex[member->GetName()].push_back(member);
+    FIndexGeneration = GMembersGeneration;
+    return FNameIndex;
   }
+
+public:
+  // The one type info of AClass, made on first need.
+  static TRttiClassTypeInfo* Of(TClass AClass);
+
+private:
 
   TClass FClass;
   std::vector<TRef<IMemberInfo>> FOwnMembers;
+  std::unordered_map<String, std::vector<TRef<IMemberInfo>>> FNameIndex;
+  std::uint64_t FIndexGeneration = 0;
+  const TClassMemberTable* FDynamicTable = nullptr;
+  std::uint64_t FDynamicGeneration = 0;
 };
 
 // The type of one object whose members include those it added at run time.
@@ -168,7 +194,13 @@ private:
 };
 
 struct TTypeInfoCache {
-  std::unordered_map<PTypeInfo, TRef<ITypeInfo>> Types;
+  // A class's entry also points at the object behind the interface, which every read of an
+  // object's members needs.
+  struct TEntry {
+    TRef<ITypeInfo> Type;
+    TRttiClassTypeInfo* Class = nullptr;
+  };
+  std::unordered_map<PTypeInfo, TEntry> Types;
   std::map<int, TProc<TObject*>> MemberChangeHandlers;
   int NextKey = 1;
 
@@ -184,34 +216,43 @@ TTypeInfoCache& Cache() {
   return cache;
 }
 
+const TTypeInfoCache::TEntry& CacheEntry(PTypeInfo ATypeRecord) {
+  TTypeInfoCache::TEntry& entry = Cache().Types[ATypeRecord];
+  if (entry.Type) return entry;
+  if (ATypeRecord->Kind == tkClass) {
+    const TRef<TRttiClassTypeInfo> info = New<TRttiClassTypeInfo>(ATypeRecord->ClassType);
+    entry.Class = info.get();
+    entry.Type = info;
+  } else {
+    entry.Type = New<TRttiTypeInfo>(ATypeRecord);
+  }
+  return entry;
+}
+
+TRttiClassTypeInfo* TRttiClassTypeInfo::Of(TClass AClass) { return CacheEntry(AClass->ClassTypeRecord()).Class; }
+
 } // namespace
 
 TRef<ITypeInfo> TTypeInfoHelper::TypeInfo(PTypeInfo ATypeRecord) {
-  if (!ATypeRecord) return nullptr;
-  TRef<ITypeInfo>& slot = Cache().Types[ATypeRecord];
-  if (!slot) {
-    if (ATypeRecord->Kind == tkClass) slot = New<TRttiClassTypeInfo>(ATypeRecord->ClassType);
-    else slot = New<TRttiTypeInfo>(ATypeRecord);
-  }
-  return slot;
+  return ATypeRecord ? CacheEntry(ATypeRecord).Type : nullptr;
 }
 
 void ReloadClassMembers(TClass AClass) {
+  ++GMembersGeneration;
   const auto found = Cache().Types.find(AClass->ClassTypeRecord());
-  if (found != Cache().Types.end()) static_cast<TRttiClassTypeInfo*>(ObjectOf(found->second))->LoadOwnMembers();
+  if (found != Cache().Types.end()) found->second.Class->LoadOwnMembers();
 }
 
 TRef<IClassTypeInfo> TRttiObjectHelper::ClassTypeInfo(TClass AClass) {
-  return AClass ? QueryAs<IClassTypeInfo>(TTypeInfoHelper::TypeInfo(AClass->ClassTypeRecord())) : nullptr;
+  return AClass ? TRef<IClassTypeInfo>(TRttiClassTypeInfo::Of(AClass)) : nullptr;
 }
 
 TRef<IClassTypeInfo> TRttiObjectHelper::TypeInfo(TObject* AObject, bool AIncludeDynamicTypeInfo) {
   if (!AObject) return nullptr;
-  TRef<IClassTypeInfo> classInfo = ClassTypeInfo(AObject->ClassType());
-  if (!AIncludeDynamicTypeInfo) return classInfo;
-  const auto* info = static_cast<TRttiClassTypeInfo*>(ObjectOf(classInfo));
+  TRttiClassTypeInfo* info = TRttiClassTypeInfo::Of(AObject->ClassType());
+  if (!AIncludeDynamicTypeInfo) return TRef<IClassTypeInfo>(info);
   const TClassMemberTable* table = info->DynamicTable();
-  if (!table || !table->DynamicMembers) return classInfo;
+  if (!table || !table->DynamicMembers) return TRef<IClassTypeInfo>(info);
   return New<TRttiInstanceTypeInfo>(AObject->ClassType(), table->DynamicMembers(AObject));
 }
 
