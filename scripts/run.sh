@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and runs the main job.
+# Installs what is missing, builds, and runs the main job: the headless inspector on the bundled
+# sample design, with the two signal generators selected.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 scripts/install-deps.sh
 cmake --preset default
 cmake --build --preset default
-echo "The headless inspector (tarvo-inspect) comes with the design core; the runtime it rests on is built."
+build/default/tarvo-inspect --select Generator1,Generator2 "$@"
