@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <fstream>
@@ -20,7 +21,8 @@ struct TToolRun {
 };
 
 TToolRun RunTool(const String& AArguments) {
-  const String errPath = testing::TempDir() + "tarvo-inspect-stderr.txt";
+  // One file a test process: ctest runs the tests of this file side by side.
+  const String errPath = testing::TempDir() + "tarvo-inspect-stderr-" + std::to_string(getpid()) + ".txt";
   const String command = String(TARVO_INSPECT_PATH) + " " + AArguments + " 2>" + errPath;
   TToolRun run;
   FILE* pipe = popen(command.c_str(), "r");
