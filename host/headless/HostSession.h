@@ -3,7 +3,7 @@
 // select, apply the edits, and give back the printed rows. Everything is taken down again, in
 // reverse order, however the run ends.
 
-#include "host/inspect/InspectOptions.h"
+#include "host/headless/HostOptions.h"
 
 namespace Tarvo {
 

@@ -27,12 +27,12 @@ struct TInspectorRow {
   std::vector<TInspectorRow> Children;
 };
 
-class TInspector {
+class TRowModel {
 public:
   // How deep --expand-all goes: a component reference can lead back to where it started.
   static constexpr Integer MaxExpandDepth = 6;
 
-  explicit TInspector(TRef<IDesigner> ADesigner) : FDesigner(std::move(ADesigner)) {}
+  explicit TRowModel(TRef<IDesigner> ADesigner) : FDesigner(std::move(ADesigner)) {}
 
   // Builds the top rows for the current selection, all collapsed: one for each member that all
   // selected objects have and that the package gives a visible editor.

@@ -1,4 +1,4 @@
-#include "host/inspect/RowWriters.h"
+#include "host/headless/RowWriters.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,4 +1,4 @@
-#include "host/inspect/Inspector.h"
+#include "host/headless/RowModel.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -48,12 +48,12 @@ void SortRows(std::vector<TInspectorRow>& ARows) {
   for (std::size_t i = 0; i < slots.size(); ++i) ARows[slots[i]] = std::move(sortable[i]);
 }
 
-TObject* TInspector::FirstSelected() {
+TObject* TRowModel::FirstSelected() {
   const TRef<IObjectArrayList> selection = FDesigner->GetRootSelection();
   return selection->GetCount() > 0 ? selection->GetItem(0) : nullptr;
 }
 
-bool TInspector::MakeRow(const TRef<IMemberInfo>& AMember, TObject* ALookupObject, TMemberEditor* AParentEditor,
+bool TRowModel::MakeRow(const TRef<IMemberInfo>& AMember, TObject* ALookupObject, TMemberEditor* AParentEditor,
                          const String& AParentPath, TInspectorRow& ARow) {
   TRef<IArrayList<TMemberEditorClass>> classes;
   if (!GetMemberEditorClasses(AMember, ALookupObject, classes)) return false;
@@ -65,7 +65,7 @@ bool TInspector::MakeRow(const TRef<IMemberInfo>& AMember, TObject* ALookupObjec
   return true;
 }
 
-void TInspector::ReadRow(TInspectorRow& ARow, const String& AParentPath) {
+void TRowModel::ReadRow(TInspectorRow& ARow, const String& AParentPath) {
   const TRef<IMemberEditor>& editor = ARow.Editor;
   ARow.Name = editor->GetName();
   ARow.Path = JoinPath(AParentPath, ARow.Name);
@@ -81,7 +81,7 @@ void TInspector::ReadRow(TInspectorRow& ARow, const String& AParentPath) {
   }
 }
 
-void TInspector::Refresh() {
+void TRowModel::Refresh() {
   FRows.clear();
   TObject* first = FirstSelected();
   for (const TRef<IMemberInfo>& member : CommonMembers(FDesigner->GetRootSelection())) {
@@ -91,7 +91,7 @@ void TInspector::Refresh() {
   SortRows(FRows);
 }
 
-void TInspector::Expand(TInspectorRow& ARow) {
+void TRowModel::Expand(TInspectorRow& ARow) {
   if (ARow.Expanded) return;
   if (!ARow.Expandable) throw EInspectError("row \"" + ARow.Path + "\" does not expand");
   ARow.Expanded = true;
@@ -115,17 +115,17 @@ void TInspector::Expand(TInspectorRow& ARow) {
   SortRows(ARow.Children);
 }
 
-void TInspector::ExpandDown(TInspectorRow& ARow, Integer ADepth) {
+void TRowModel::ExpandDown(TInspectorRow& ARow, Integer ADepth) {
   if (!ARow.Expandable || ADepth >= MaxExpandDepth) return;
   Expand(ARow);
   for (TInspectorRow& child : ARow.Children) ExpandDown(child, ADepth + 1);
 }
 
-void TInspector::ExpandAll() {
+void TRowModel::ExpandAll() {
   for (TInspectorRow& row : FRows) ExpandDown(row, 0);
 }
 
-TInspectorRow& TInspector::Find(const String& APath) {
+TInspectorRow& TRowModel::Find(const String& APath) {
   std::vector<TInspectorRow>* rows = &FRows;
   TInspectorRow* found = nullptr;
   std::size_t start = 0;
@@ -143,7 +143,7 @@ TInspectorRow& TInspector::Find(const String& APath) {
   }
 }
 
-TRef<IPropertyEditor> TInspector::ValueEditor(const String& APath) {
+TRef<IPropertyEditor> TRowModel::ValueEditor(const String& APath) {
   TInspectorRow& row = Find(APath);
   TRef<IPropertyEditor> editor;
   if (!Supports(row.Editor, editor)) throw EInspectError("row \"" + row.Path + "\" has no value");
@@ -151,8 +151,8 @@ TRef<IPropertyEditor> TInspector::ValueEditor(const String& APath) {
   return editor;
 }
 
-void TInspector::SetValue(const String& APath, const String& AText) { ValueEditor(APath)->SetStringValue(AText); }
+void TRowModel::SetValue(const String& APath, const String& AText) { ValueEditor(APath)->SetStringValue(AText); }
 
-void TInspector::ResetValue(const String& APath) { ValueEditor(APath)->ResetValue(); }
+void TRowModel::ResetValue(const String& APath) { ValueEditor(APath)->ResetValue(); }
 
 } // namespace Tarvo

@@ -6,10 +6,10 @@
 
 namespace Tarvo {
 
-class TInspectDesigner : public TDesigner {
+class THostDesigner : public TDesigner {
 public:
   // ARoot is not owned; it must outlive the designer.
-  explicit TInspectDesigner(TComponent* ARoot) : FRoot(ARoot) {}
+  explicit THostDesigner(TComponent* ARoot) : FRoot(ARoot) {}
 
   TRef<IStringArrayList> GetComponentNames() override;
   TComponent* GetComponent(const String& AName) override { return FRoot->FindComponent(AName); }

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "design/Registry.h"
-#include "host/inspect/InspectDesigner.h"
-#include "host/inspect/Inspector.h"
+#include "host/headless/HostDesigner.h"
+#include "host/headless/RowModel.h"
 #include "package/PackageEntry.h"
 #include "rtl/Module.h"
 #include "runtime/Shape.h"
@@ -32,7 +32,7 @@ public:
       TComponent* filter = TComponentHelper::CreateComponent(filterClass, FRoot.get(), true, false);
       filter->SetName("Filter" + std::to_string(i + 1));
     }
-    FDesigner = New<TInspectDesigner>(FRoot.get());
+    FDesigner = New<THostDesigner>(FRoot.get());
   }
   ~TBenchDesign() {
     FDesigner = nullptr;
@@ -90,7 +90,7 @@ void BM_RegistryLookup(benchmark::State& AState) {
 }
 
 void BM_InspectorRefresh(benchmark::State& AState) {
-  TInspector inspector(Design().Select(static_cast<Integer>(AState.range(0))));
+  TRowModel inspector(Design().Select(static_cast<Integer>(AState.range(0))));
   for (auto _ : AState) {
     inspector.Refresh();
     benchmark::DoNotOptimize(inspector.Rows().data());
@@ -102,7 +102,7 @@ void BM_InspectorRefresh(benchmark::State& AState) {
 // default flag, through members looked up once.
 void BM_ReflectionBaseline(benchmark::State& AState) {
   const TRef<IDesigner> designer = Design().Select(static_cast<Integer>(AState.range(0)));
-  TInspector inspector(designer);
+  TRowModel inspector(designer);
   inspector.Refresh();
   std::vector<TRef<ISinglePropertyInfo>> members;
   for (const TInspectorRow& row : inspector.Rows())

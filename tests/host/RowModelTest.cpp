@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "design/Registry.h"
-#include "host/inspect/InspectDesigner.h"
-#include "host/inspect/Inspector.h"
+#include "host/headless/HostDesigner.h"
+#include "host/headless/RowModel.h"
 #include "package/PackageEntry.h"
 #include "rtl/Module.h"
 #include "runtime/DesignFile.h"
@@ -28,25 +28,25 @@ TARVO_IMPLEMENT_CLASS(TInspectTestFontEditor)
 
 namespace {
 
-class InspectorTest : public testing::Test {
+class RowModelTest : public testing::Test {
 protected:
   void SetUp() override {
     Initialize();
     FModule = LoadModule(TARVO_SAMPLES_MODULE_PATH);
     FRoot.reset(TComponentHelper::CreateComponent(TComponent::ClassInfo(), nullptr, true, false));
     ReadDesignFile(TARVO_SAMPLE_DESIGN, FRoot.get());
-    FDesigner = New<TInspectDesigner>(FRoot.get());
-    FInspector = TInspector(FDesigner);
+    FDesigner = New<THostDesigner>(FRoot.get());
+    FInspector = TRowModel(FDesigner);
   }
   void TearDown() override {
-    FInspector = TInspector(nullptr);
+    FInspector = TRowModel(nullptr);
     FDesigner = nullptr;
     FRoot.reset();
     UnloadModule(FModule);
     Finalize();
   }
 
-  TInspector& Select(std::initializer_list<const char*> ANames) {
+  TRowModel& Select(std::initializer_list<const char*> ANames) {
     const TRef<IObjectArrayList> selection = New<TObjectArrayList>();
     for (const char* name : ANames) selection->Add(FRoot->FindComponent(name));
     FDesigner->SetSelection(selection);
@@ -63,10 +63,10 @@ protected:
   TModule* FModule = nullptr;
   TOwnedObject<TComponent> FRoot;
   TRef<IDesigner> FDesigner;
-  TInspector FInspector{nullptr};
+  TRowModel FInspector{nullptr};
 };
 
-TEST_F(InspectorTest, RowsAreTheMembersThePackageGivesAVisibleEditorSortedByName) {
+TEST_F(RowModelTest, RowsAreTheMembersThePackageGivesAVisibleEditorSortedByName) {
   Select({"Generator1"});
   const std::vector<String> names = Names();
   EXPECT_TRUE(std::is_sorted(names.begin(), names.end()));
@@ -86,14 +86,14 @@ TEST_F(InspectorTest, RowsAreTheMembersThePackageGivesAVisibleEditorSortedByName
   EXPECT_TRUE(FInspector.Find("PeakToPeak").ReadOnly);
 }
 
-TEST_F(InspectorTest, ControlsShowNoneOfTheMembersTheDesignerPlacesOnTheSurface) {
+TEST_F(RowModelTest, ControlsShowNoneOfTheMembersTheDesignerPlacesOnTheSurface) {
   Select({"TriggerMark"});
   for (const char* absent : {"Left", "Top", "Width", "Height", "Tag", "Align", "Anchors", "PopupMenu"})
     EXPECT_FALSE(HasRow(absent)) << absent;
   EXPECT_EQ(FInspector.Find("Shape").Value, "stCircle");
 }
 
-TEST_F(InspectorTest, SeveralObjectsShowOneTextWhenTheyAgreeAndAllTextsWhenNot) {
+TEST_F(RowModelTest, SeveralObjectsShowOneTextWhenTheyAgreeAndAllTextsWhenNot) {
   Select({"Generator1", "Generator2"});
   EXPECT_EQ(FInspector.Find("Frequency").Value, "440;1000");
   EXPECT_FALSE(FInspector.Find("Frequency").IsDefault);
@@ -109,14 +109,14 @@ TEST_F(InspectorTest, SeveralObjectsShowOneTextWhenTheyAgreeAndAllTextsWhenNot) 
   EXPECT_TRUE(FInspector.Find("Frequency").IsDefault);
 }
 
-TEST_F(InspectorTest, OnlyMembersThatEverySelectedObjectHasGetRows) {
+TEST_F(RowModelTest, OnlyMembersThatEverySelectedObjectHasGetRows) {
   Select({"Generator1", "Filter1"});
   EXPECT_TRUE(HasRow("Name"));
   EXPECT_FALSE(HasRow("Frequency"));
   EXPECT_FALSE(HasRow("Cutoff"));
 }
 
-TEST_F(InspectorTest, BadPathsAndReadOnlyRowsAreRefusedByName) {
+TEST_F(RowModelTest, BadPathsAndReadOnlyRowsAreRefusedByName) {
   Select({"Generator1"});
   const auto message = [&](auto AAction) -> String {
     try {
@@ -133,7 +133,7 @@ TEST_F(InspectorTest, BadPathsAndReadOnlyRowsAreRefusedByName) {
   EXPECT_EQ(message([&] { FInspector.Expand(FInspector.Find("Frequency")); }), "row \"Frequency\" does not expand");
 }
 
-TEST_F(InspectorTest, AnExpandingEditorGivesSubRowsThatWriteToTheValuesOfEverySelectedObject) {
+TEST_F(RowModelTest, AnExpandingEditorGivesSubRowsThatWriteToTheValuesOfEverySelectedObject) {
   RegisterPropertyEditor(TypeInfo<TFont*>(), TInspectTestFontEditor::ClassInfo());
   Select({"Scope1", "TriggerMark"});
   TInspectorRow& font = FInspector.Find("Font");

@@ -1,9 +1,9 @@
-#include "host/inspect/InspectSession.h"
+#include "host/headless/HostSession.h"
 
 #include <nlohmann/json.hpp>
 
-#include "host/inspect/InspectDesigner.h"
-#include "host/inspect/RowWriters.h"
+#include "host/headless/HostDesigner.h"
+#include "host/headless/RowWriters.h"
 #include "package/PackageEntry.h"
 #include "rtl/Module.h"
 #include "runtime/DesignFile.h"
@@ -72,10 +72,10 @@ String RunInspect(const TInspectOptions& AOptions, const TInspectPaths& APaths) 
   const TOwnedObject<TComponent> root(
       TComponentHelper::CreateComponent(TComponent::ClassInfo(), nullptr, true, false));
   ReadDesignFile(AOptions.DesignFile.empty() ? APaths.SampleDesign : AOptions.DesignFile, root.get());
-  const TRef<IDesigner> designer = New<TInspectDesigner>(root.get());
+  const TRef<IDesigner> designer = New<THostDesigner>(root.get());
   Select(*designer, root.get(), AOptions.Select);
 
-  TInspector inspector(designer);
+  TRowModel inspector(designer);
   inspector.Refresh();
   for (const TInspectEdit& edit : AOptions.Edits) {
     if (edit.Kind == TInspectEdit::ekSet) inspector.SetValue(edit.Path, edit.Text);

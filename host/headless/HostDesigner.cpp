@@ -1,14 +1,14 @@
-#include "host/inspect/InspectDesigner.h"
+#include "host/headless/HostDesigner.h"
 
 namespace Tarvo {
 
-TRef<IStringArrayList> TInspectDesigner::GetComponentNames() {
+TRef<IStringArrayList> THostDesigner::GetComponentNames() {
   const TRef<IStringArrayList> result = New<TStringArrayList>();
   for (Integer i = 0; i < FRoot->ComponentCount(); ++i) result->Add(FRoot->Components(i)->GetName());
   return result;
 }
 
-String TInspectDesigner::UniqueName(const String& ABaseName) {
+String THostDesigner::UniqueName(const String& ABaseName) {
   for (Integer number = 1;; ++number) {
     const String candidate = ABaseName + std::to_string(number);
     if (!FRoot->FindComponent(candidate)) return candidate;

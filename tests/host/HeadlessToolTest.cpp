@@ -36,7 +36,7 @@ TToolRun RunTool(const String& AArguments) {
   return run;
 }
 
-TEST(InspectCliTest, TwoComponentsOfOneClassShowTheirRowsWithMarkers) {
+TEST(HeadlessToolTest, TwoComponentsOfOneClassShowTheirRowsWithMarkers) {
   const TToolRun run = RunTool("--select Generator1,Generator2");
   ASSERT_EQ(run.ExitCode, 0) << run.Err;
   EXPECT_EQ(run.Err, "");
@@ -46,7 +46,7 @@ TEST(InspectCliTest, TwoComponentsOfOneClassShowTheirRowsWithMarkers) {
   EXPECT_EQ(run.Out.find("NoiseSeed"), String::npos);
 }
 
-TEST(InspectCliTest, WritesGoThroughTheEditorsBeforeTheRowsArePrinted) {
+TEST(HeadlessToolTest, WritesGoThroughTheEditorsBeforeTheRowsArePrinted) {
   const TToolRun run = RunTool("--select Filter1 --set Cutoff=1200 --set Order=3 --reset GainDb");
   ASSERT_EQ(run.ExitCode, 0) << run.Err;
   EXPECT_NE(run.Out.find("\nCutoff = 1200  *\n"), String::npos) << run.Out;
@@ -56,7 +56,7 @@ TEST(InspectCliTest, WritesGoThroughTheEditorsBeforeTheRowsArePrinted) {
   EXPECT_NE(run.Out.find("Description = Band-pass for the test tone.\\nKeeps"), String::npos) << run.Out;
 }
 
-TEST(InspectCliTest, JsonRowsCarryEveryFieldOfTheRow) {
+TEST(HeadlessToolTest, JsonRowsCarryEveryFieldOfTheRow) {
   const TToolRun run = RunTool("--select Generator1 --json");
   ASSERT_EQ(run.ExitCode, 0) << run.Err;
   const nlohmann::json rows = nlohmann::json::parse(run.Out);
@@ -68,13 +68,13 @@ TEST(InspectCliTest, JsonRowsCarryEveryFieldOfTheRow) {
   EXPECT_EQ(*phase, nlohmann::json::parse(expected));
 }
 
-TEST(InspectCliTest, ListsTheRegisteredClassesWithTheirPages) {
+TEST(HeadlessToolTest, ListsTheRegisteredClassesWithTheirPages) {
   const TToolRun run = RunTool("--list-classes");
   ASSERT_EQ(run.ExitCode, 0) << run.Err;
   EXPECT_EQ(run.Out, "TSignalFilter (Signal)\nTSignalGenerator (Signal)\nTSignalScope (Signal)\n");
 }
 
-TEST(InspectCliTest, BadInputIsOneClearMessageWithExitCodeTwoAndNothingPrinted) {
+TEST(HeadlessToolTest, BadInputIsOneClearMessageWithExitCodeTwoAndNothingPrinted) {
   const String design = testing::TempDir() + "tarvo-inspect-bad-design.json";
   std::ofstream(design) << R"({"components": [{"class": "TSignalGenerator", "name": "G", "properties": {"Pitch": "1"}}]})";
   const struct {

@@ -5,7 +5,7 @@
 // row: "*" when a selected object differs from the default, "[ro]" when read-only, "+" when the
 // row expands. A line break inside a value shows as "\n".
 
-#include "host/inspect/Inspector.h"
+#include "host/headless/RowModel.h"
 
 namespace Tarvo {
 

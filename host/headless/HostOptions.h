@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "host/inspect/Inspector.h"
+#include "host/headless/RowModel.h"
 
 namespace Tarvo {
 

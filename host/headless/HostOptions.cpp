@@ -1,4 +1,4 @@
-#include "host/inspect/InspectOptions.h"
+#include "host/headless/HostOptions.h"
 
 namespace Tarvo {
 

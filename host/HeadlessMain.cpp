@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <iostream>
 
-#include "host/inspect/InspectSession.h"
+#include "host/headless/HostSession.h"
 
 namespace {
 
