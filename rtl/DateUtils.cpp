@@ -95,16 +95,6 @@ std::optional<Word> Field(std::string_view AText, std::size_t AMaxDigits) {
   return value;
 }
 
-std::vector<std::string_view> SplitAt(std::string_view AText, char ASeparator) {
-  std::vector<std::string_view> parts;
-  for (std::size_t start = 0;;) {
-    const std::size_t end = AText.find(ASeparator, start);
-    parts.push_back(AText.substr(start, end - start));
-    if (end == std::string_view::npos) return parts;
-    start = end + 1;
-  }
-}
-
 String Padded(Word AValue, std::size_t AWidth) {
   String text = std::to_string(AValue);
   return text.size() < AWidth ? String(AWidth - text.size(), '0') + text : text;
@@ -285,7 +275,7 @@ bool TryStrToDate(std::string_view AText, TDateTime& AResult, const TFormatSetti
   std::array<char, 3> order = {'y', 'm', 'd'};
   std::sort(order.begin(), order.end(), [&format](char a, char b) { return format.find(a) < format.find(b); });
   const String text = Trim(AText);
-  const std::vector<std::string_view> fields = SplitAt(text, ASettings.DateSeparator);
+  const std::vector<std::string_view> fields = SplitString(text, ASettings.DateSeparator);
   if (fields.size() != order.size()) return false;
   TParts parts{};
   for (std::size_t i = 0; i < order.size(); ++i) {
@@ -310,7 +300,7 @@ bool TryStrToTime(std::string_view AText, TDateTime& AResult, const TFormatSetti
   const String trimmed = Trim(AText);
   std::string_view text = trimmed;
   const int meridiem = TakeMeridiem(text);
-  std::vector<std::string_view> fields = SplitAt(text, ASettings.TimeSeparator);
+  std::vector<std::string_view> fields = SplitString(text, ASettings.TimeSeparator);
   if (fields.size() < 2 || fields.size() > 3) return false;
   // Milliseconds are a fraction of the second: ".5" is 500.
   Word ms = 0;

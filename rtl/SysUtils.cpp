@@ -73,6 +73,16 @@ bool IsValidIdent(std::string_view AText) {
 
 String Trim(std::string_view AText) { return TrimLeft(TrimRight(AText)); }
 
+std::vector<std::string_view> SplitString(std::string_view AText, char ASeparator) {
+  std::vector<std::string_view> parts;
+  for (std::size_t start = 0;;) {
+    const std::size_t end = AText.find(ASeparator, start);
+    parts.push_back(AText.substr(start, end - start));
+    if (end == std::string_view::npos) return parts;
+    start = end + 1;
+  }
+}
+
 // ---- Integers ----
 
 namespace {

@@ -6,6 +6,7 @@
 #include <initializer_list>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
 #include "rtl/Types.h"
 
@@ -40,6 +41,8 @@ String Trim(std::string_view AText);
 bool IsValidIdent(std::string_view AText);
 String TrimLeft(std::string_view AText);
 String TrimRight(std::string_view AText);
+// The pieces between the separators, empty ones included; views into AText.
+std::vector<std::string_view> SplitString(std::string_view AText, char ASeparator);
 
 // ---- Integers ----
 

@@ -147,15 +147,12 @@ bool SetFromString(PTypeInfo AType, const String& AText, TValue& AResult) {
   String body = Trim(AText);
   if (body.size() >= 2 && body.front() == '[' && body.back() == ']') body = body.substr(1, body.size() - 2);
   std::vector<unsigned char> bytes(AType->DataSize(), 0);
-  std::size_t start = 0;
-  while (!Trim(body).empty() && start <= body.size()) {
-    const std::size_t comma = std::min(body.find(',', start), body.size());
-    const String name = Trim(body.substr(start, comma - start));
-    const Int64 ordinal = AType->CompType ? AType->CompType->EnumValue(name) : -1;
-    if (ordinal < 0 || std::size_t(ordinal) >= bytes.size() * 8) return false;
-    bytes[std::size_t(ordinal) / 8] |= static_cast<unsigned char>(1u << ordinal % 8);
-    start = comma + 1;
-  }
+  if (!Trim(body).empty())
+    for (const std::string_view part : SplitString(body, ',')) {
+      const Int64 ordinal = AType->CompType ? AType->CompType->EnumValue(Trim(part)) : -1;
+      if (ordinal < 0 || std::size_t(ordinal) >= bytes.size() * 8) return false;
+      bytes[std::size_t(ordinal) / 8] |= static_cast<unsigned char>(1u << ordinal % 8);
+    }
   AResult = TValue::Make(bytes.data(), AType);
   return true;
 }

@@ -145,17 +145,19 @@ private:
 
   TMemberTarget Resolve(TComponent* AComponent, const String& AKey) {
     TObject* object = AComponent;
-    for (std::size_t start = 0;;) {
-      const std::size_t dot = AKey.find('.', start);
+    const std::vector<std::string_view> names = SplitString(AKey, '.');
+    for (std::size_t i = 0;; ++i) {
+      const bool last = i + 1 == names.size();
       TRef<IValueMemberInfo> member;
-      if (!TRttiObjectHelper::TypeInfo(object, true)->FindMember(AKey.substr(start, dot - start), member) ||
-          member->GetVisibility() != mvPublished || (dot != String::npos && member->GetTypeInfo()->GetTypeKind() != tkClass))
+      if (!TRttiObjectHelper::TypeInfo(object, true)->FindMember(String(names[i]), member) ||
+          member->GetVisibility() != mvPublished || (!last && member->GetTypeInfo()->GetTypeKind() != tkClass))
         Fail("Unknown property '" + AKey + "' of component '" + AComponent->GetName() + "' (" + AComponent->ClassName() + ")");
-      if (dot == String::npos) return {object, member};
+      if (last) return {object, member};
       object = member->GetValue(object).AsObject();
-      if (!object)
-        Fail("Cannot reach '" + AKey + "' of component '" + AComponent->GetName() + "': '" + AKey.substr(0, dot) + "' is nil");
-      start = dot + 1;
+      if (!object) {
+        const std::size_t reached = names[i].data() + names[i].size() - AKey.data();
+        Fail("Cannot reach '" + AKey + "' of component '" + AComponent->GetName() + "': '" + AKey.substr(0, reached) + "' is nil");
+      }
     }
   }
 

@@ -1,5 +1,7 @@
 #include "host/headless/HostOptions.h"
 
+#include "rtl/SysUtils.h"
+
 namespace Tarvo {
 
 const char* const InspectUsage =
@@ -24,15 +26,11 @@ namespace {
 
 std::vector<String> SplitNames(const String& AText) {
   std::vector<String> names;
-  std::size_t start = 0;
-  while (true) {
-    const std::size_t comma = AText.find(',', start);
-    const String name = AText.substr(start, comma == String::npos ? String::npos : comma - start);
+  for (const std::string_view name : SplitString(AText, ',')) {
     if (name.empty()) throw EInspectError("--select expects component names separated by \",\"");
-    names.push_back(name);
-    if (comma == String::npos) return names;
-    start = comma + 1;
+    names.emplace_back(name);
   }
+  return names;
 }
 
 } // namespace

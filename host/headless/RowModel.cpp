@@ -128,19 +128,17 @@ void TRowModel::ExpandAll() {
 TInspectorRow& TRowModel::Find(const String& APath) {
   std::vector<TInspectorRow>* rows = &FRows;
   TInspectorRow* found = nullptr;
-  std::size_t start = 0;
-  while (true) {
-    const std::size_t dot = APath.find('.', start);
-    const String name = APath.substr(start, dot == String::npos ? String::npos : dot - start);
+  for (const std::string_view name : SplitString(APath, '.')) {
+    if (found) {
+      if (!found->Expandable) throw EInspectError("no row \"" + APath + "\": \"" + found->Path + "\" does not expand");
+      Expand(*found);
+      rows = &found->Children;
+    }
     const auto match = std::find_if(rows->begin(), rows->end(), [&](const TInspectorRow& ARow) { return SameText(ARow.Name, name); });
     if (match == rows->end()) throw EInspectError("no row \"" + APath + "\"");
     found = &*match;
-    if (dot == String::npos) return *found;
-    if (!found->Expandable) throw EInspectError("no row \"" + APath + "\": \"" + found->Path + "\" does not expand");
-    Expand(*found);
-    rows = &found->Children;
-    start = dot + 1;
   }
+  return *found;
 }
 
 TRef<IPropertyEditor> TRowModel::ValueEditor(const String& APath) {
