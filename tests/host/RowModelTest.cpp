@@ -86,13 +86,6 @@ TEST_F(RowModelTest, RowsAreTheMembersThePackageGivesAVisibleEditorSortedByName)
   EXPECT_TRUE(FInspector.Find("PeakToPeak").ReadOnly);
 }
 
-TEST_F(RowModelTest, ControlsShowNoneOfTheMembersTheDesignerPlacesOnTheSurface) {
-  Select({"TriggerMark"});
-  for (const char* absent : {"Left", "Top", "Width", "Height", "Tag", "Align", "Anchors", "PopupMenu"})
-    EXPECT_FALSE(HasRow(absent)) << absent;
-  EXPECT_EQ(FInspector.Find("Shape").Value, "stCircle");
-}
-
 TEST_F(RowModelTest, SeveralObjectsShowOneTextWhenTheyAgreeAndAllTextsWhenNot) {
   Select({"Generator1", "Generator2"});
   EXPECT_EQ(FInspector.Find("Frequency").Value, "440;1000");
