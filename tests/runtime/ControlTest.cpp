@@ -8,49 +8,35 @@
 namespace Tarvo {
 namespace {
 
+using TNames = std::vector<String>;
+
 TRef<ISinglePropertyInfo> PropertyOf(TObject* AObject, const String& AName) {
   TRef<ISinglePropertyInfo> property;
   EXPECT_TRUE(TRttiObjectHelper::TypeInfo(AObject, false)->FindSinglePropertyMember(AName, property)) << AName;
   return property;
 }
 
+// Members whose type is named for its editor, not the type that holds the value.
 TEST(ControlReflectionTest, MembersHaveTheirNamedTypes) {
   const TOwnedObject<TControl> control(Construct<TControl>(nullptr));
   const std::pair<const char*, PTypeInfo> cases[] = {
-      {"Left", &TypeInfo_Integer},
-      {"Color", &TypeInfo_TColor},
-      {"Cursor", &TypeInfo_TCursor},
-      {"Hint", &TypeInfo_String},
-      {"Font", TFont::ClassInfo()->ClassTypeRecord()},
-      {"PopupMenu", TPopupMenu::ClassInfo()->ClassTypeRecord()},
-      {"Align", TypeInfo<TAlign>()},
-      {"Anchors", TypeInfo<TAnchors>()},
-      {"Margins", TMargins::ClassInfo()->ClassTypeRecord()},
-      {"Constraints", TSizeConstraints::ClassInfo()->ClassTypeRecord()},
-      {"HelpType", TypeInfo<THelpType>()},
-      {"HelpContext", &TypeInfo_THelpContext},
-      {"CustomHint", TCustomHint::ClassInfo()->ClassTypeRecord()},
-  };
+      {"Color", &TypeInfo_TColor}, {"Cursor", &TypeInfo_TCursor}, {"HelpContext", &TypeInfo_THelpContext}};
   for (const auto& [name, type] : cases) EXPECT_EQ(PropertyOf(control.get(), name)->GetTypeInfo()->GetHandle(), type) << name;
-
-  EXPECT_EQ(PropertyOf(control.get(), "Color")->GetTypeInfo()->GetName(), "TColor");
   TRef<ISetTypeInfo> anchors;
   ASSERT_TRUE(Supports(PropertyOf(control.get(), "Anchors")->GetTypeInfo(), anchors));
-  EXPECT_EQ(anchors->GetTypeKind(), tkSet);
   EXPECT_EQ(anchors->GetElementType()->GetHandle(), TypeInfo<TAnchorKind>());
 }
 
 TEST(ControlReflectionTest, DeclaredDefaultsHoldForANewControlAndNotAfterAWrite) {
   const TOwnedObject<TWinControl> control(Construct<TWinControl>(nullptr));
   const std::pair<const char*, const char*> cases[] = {
-      {"Visible", "False"},        {"Enabled", "False"},    {"Color", "255"},      {"Cursor", "-21"},
-      {"Align", "alClient"},       {"Anchors", "[akLeft]"}, {"HelpType", "htKeyword"}, {"HelpContext", "7"},
+      {"Visible", "False"},     {"Enabled", "False"},      {"Color", "255"},       {"Cursor", "-21"},
+      {"Align", "alClient"},    {"Anchors", "[akLeft]"},   {"HelpType", "htKeyword"}, {"HelpContext", "7"},
       {"ParentCustomHint", "False"}, {"Tag", "1"},
   };
   for (const auto& [name, other] : cases) {
     const TRef<ISinglePropertyInfo> property = PropertyOf(control.get(), name);
-    EXPECT_TRUE(property->GetHasDefault()) << name;
-    EXPECT_TRUE(property->GetIsDefault(control.get(), false)) << name;
+    EXPECT_TRUE(property->GetHasDefault() && property->GetIsDefault(control.get(), false)) << name;
     property->SetFromString(control.get(), other);
     EXPECT_FALSE(property->GetIsDefault(control.get(), false)) << name;
   }
@@ -60,41 +46,46 @@ TEST(ControlReflectionTest, DeclaredDefaultsHoldForANewControlAndNotAfterAWrite)
   EXPECT_FALSE(PropertyOf(control.get(), "Left")->GetHasDefault());
 }
 
-TEST(ControlReflectionTest, WritingAnOwnedObjectCopiesIntoTheControlsOwn) {
+// A control's font, or a shape's pen, stays its own: writing another copies it in.
+TEST(ControlReflectionTest, WritingAnOwnedObjectCopiesIntoTheOwnersOwn) {
   const TOwnedObject<TControl> control(Construct<TControl>(nullptr));
-  TFont* own = control->GetFont();
+  TFont* ownFont = control->GetFont();
   const TOwnedObject<TFont> font(Construct<TFont>());
   font->SetSize(20);
   PropertyOf(control.get(), "Font")->SetValue(control.get(), TValue(static_cast<TObject*>(font.get())));
-  EXPECT_EQ(control->GetFont(), own);
-  EXPECT_EQ(own->GetSize(), 20);
+  EXPECT_EQ(control->GetFont(), ownFont);
+  EXPECT_EQ(ownFont->GetSize(), 20);
   EXPECT_THROW(control->SetFont(nullptr), EConvertError);
+
+  const TOwnedObject<TShape> shape(Construct<TShape>(nullptr));
+  TPen* ownPen = shape->GetPen();
+  const TOwnedObject<TPen> pen(Construct<TPen>());
+  pen->SetWidth(4);
+  PropertyOf(shape.get(), "Pen")->SetValue(shape.get(), TValue(static_cast<TObject*>(pen.get())));
+  EXPECT_EQ(shape->GetPen(), ownPen);
+  EXPECT_EQ(ownPen->GetWidth(), 4);
 }
 
-TEST(ControlReferenceTest, PopupMenuAndCustomHintClearWhenTheyGo) {
+TEST(ControlReferenceTest, PopupMenuAndCustomHintClearWhenTheyGoAndReplacedOnesLetGo) {
   const TOwnedObject<TControl> control(Construct<TControl>(nullptr));
   TPopupMenu* menu = Construct<TPopupMenu>(nullptr);
   TCustomHint* hint = Construct<TCustomHint>(nullptr);
   PropertyOf(control.get(), "PopupMenu")->SetValue(control.get(), TValue(static_cast<TObject*>(menu)));
   control->SetCustomHint(hint);
-  ASSERT_EQ(control->GetPopupMenu(), menu);
   TObject::Free(menu);
-  EXPECT_EQ(control->GetPopupMenu(), nullptr);
   EXPECT_TRUE(PropertyOf(control.get(), "PopupMenu")->GetValue(control.get()).AsObject() == nullptr);
   EXPECT_EQ(control->GetCustomHint(), hint);
   TObject::Free(hint);
   EXPECT_EQ(control->GetCustomHint(), nullptr);
-}
 
-TEST(ControlReferenceTest, AReplacedMenuNoLongerTouchesTheControlAndAGoneControlNoLongerTheMenu) {
   const TOwnedObject<TPopupMenu> kept(Construct<TPopupMenu>(nullptr));
   TPopupMenu* replaced = Construct<TPopupMenu>(nullptr);
-  TControl* control = Construct<TControl>(nullptr);
-  control->SetPopupMenu(replaced);
-  control->SetPopupMenu(kept.get());
+  TControl* other = Construct<TControl>(nullptr);
+  other->SetPopupMenu(replaced);
+  other->SetPopupMenu(kept.get());
   TObject::Free(replaced);
-  EXPECT_EQ(control->GetPopupMenu(), kept.get());
-  TObject::Free(control); // the kept menu outlives it and must not tell it anything later
+  EXPECT_EQ(other->GetPopupMenu(), kept.get());
+  TObject::Free(other); // the kept menu outlives it and must not tell it anything later
 }
 
 TEST(ControlReferenceTest, AnOwnerThatGoesClearsReferencesBetweenItsComponentsBeforeEachGoes) {
@@ -129,8 +120,8 @@ protected:
     control->SetParent(AParent);
     return control;
   }
-  static std::vector<String> Walk(TWinControl* ARoot, bool ARecursive, bool AReverse) {
-    std::vector<String> names;
+  static TNames Walk(TWinControl* ARoot, bool ARecursive, bool AReverse) {
+    TNames names;
     TWinControl* source = ARoot->QueryControls(ARecursive, AReverse)->ForEach([&](TControl* const& AControl) {
       names.push_back(AControl->GetName());
     });
@@ -143,31 +134,24 @@ protected:
   TControl* B = nullptr;
 };
 
-using TNames = std::vector<String>;
-
 TEST_F(ControlTreeTest, QueryControlsWalksInEachOrder) {
   EXPECT_EQ(Walk(Form.get(), false, false), (TNames{"A", "B"}));
   EXPECT_EQ(Walk(Form.get(), false, true), (TNames{"B", "A"}));
   EXPECT_EQ(Walk(Form.get(), true, false), (TNames{"A", "a1", "a2", "a2x", "B"}));
   EXPECT_EQ(Walk(Form.get(), true, true), (TNames{"B", "a2x", "a2", "a1", "A"}));
   EXPECT_EQ(Walk(A, true, false), (TNames{"a1", "a2", "a2x"}));
-  const TControlList windowed = Form->QueryControls(true, false)->Filter([](TControl* const& AControl) {
-    return dynamic_cast<TWinControl*>(AControl) != nullptr;
-  });
-  EXPECT_EQ(windowed->GetCount(), 2);
 }
 
 TEST_F(ControlTreeTest, ReparentingMovesAndCyclesAreRefused) {
   B->SetParent(A);
-  EXPECT_EQ(Form->ControlCount(), 1);
-  EXPECT_EQ(A->Controls(2), B);
+  EXPECT_EQ(Walk(Form.get(), false, false), TNames{"A"});
+  EXPECT_EQ(Walk(A, false, false), (TNames{"a1", "a2", "B"}));
   EXPECT_EQ(B->GetParent(), A);
-  TWinControl* a2 = static_cast<TWinControl*>(A->Controls(1));
-  EXPECT_THROW(A->SetParent(a2), EInvalidOperation);
+  EXPECT_THROW(A->SetParent(static_cast<TWinControl*>(A->Controls(1))), EInvalidOperation);
   EXPECT_THROW(A->SetParent(A), EInvalidOperation);
   EXPECT_EQ(A->GetParent(), Form.get());
   B->SetParent(nullptr);
-  EXPECT_EQ(A->ControlCount(), 2);
+  EXPECT_EQ(Walk(A, false, false), (TNames{"a1", "a2"}));
   EXPECT_EQ(B->GetParent(), nullptr);
 }
 
@@ -212,7 +196,6 @@ TEST(ControlSizeTest, ConstraintsLimitTheSizeAndGiveWayToEachOther) {
   control->SetWidth(500);
   EXPECT_EQ(control->GetWidth(), 100);
   EXPECT_EQ(control->GetLeft(), 1);
-
   constraints->SetMinWidth(120); // above the maximum: the maximum follows
   EXPECT_EQ(constraints->GetMaxWidth(), 120);
   constraints->SetMaxWidth(80); // below the minimum: the minimum follows
@@ -232,18 +215,6 @@ TEST(ControlSizeTest, HelpKeywordAndContextChooseTheHelpTypeUnlessLoading) {
   TComponentHelper::SetIntLoading(control.get(), true);
   control->SetHelpKeyword("again");
   EXPECT_EQ(control->GetHelpType(), htContext);
-}
-
-TEST(ShapeTest, OwnsItsPenAndBrushAndPublishesThem) {
-  const TOwnedObject<TShape> shape(Construct<TShape>(nullptr));
-  EXPECT_TRUE(PropertyOf(shape.get(), "Shape")->GetIsDefault(shape.get(), false));
-  const TOwnedObject<TPen> pen(Construct<TPen>());
-  pen->SetWidth(4);
-  TPen* own = shape->GetPen();
-  PropertyOf(shape.get(), "Pen")->SetValue(shape.get(), TValue(static_cast<TObject*>(pen.get())));
-  EXPECT_EQ(shape->GetPen(), own);
-  EXPECT_EQ(own->GetWidth(), 4);
-  EXPECT_EQ(PropertyOf(shape.get(), "Brush")->GetTypeInfo()->GetHandle(), TBrush::ClassInfo()->ClassTypeRecord());
 }
 
 } // namespace

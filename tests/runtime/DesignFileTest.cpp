@@ -88,6 +88,13 @@ namespace {
 
 using TJson = nlohmann::ordered_json;
 
+// A design of the components given as JSON objects.
+String Design(const String& AComponents) { return R"({"components": [)" + AComponents + "]}"; }
+// A design of one gauge, Gauge1, with the properties given as JSON members.
+String Gauge1(const String& AProperties) {
+  return Design(R"({"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {)" + AProperties + "}}");
+}
+
 TDesignFileTestGauge* Gauge(TComponent* ARoot, const char* AName) {
   return dynamic_cast<TDesignFileTestGauge*>(ARoot->FindComponent(AName));
 }
@@ -97,46 +104,38 @@ protected:
   TOwnedObject<TComponent> FRoot{Construct<TComponent>(nullptr)};
 };
 
-TEST_F(DesignFileTest, ComponentsAreMadeInFileOrderWithTheirPropertiesAndLoadedAfterwards) {
-  const std::vector<TComponent*> made = ReadDesign(R"({"components": [
-    {"class": "TDesignFileTestGauge", "name": "Gauge1",
-     "properties": {"Value": "42", "Caption": "first\nsecond", "Mode": "dmHold", "Ratio": "0.25", "Part.Level": "9"}},
-    {"class": "TDesignFileTestGauge", "name": "Gauge2"}]})",
+TEST_F(DesignFileTest, ComponentsAreMadeInFileOrderWithTheirPropertiesAndReferencesAndLoadedAfterwards) {
+  const std::vector<TComponent*> made = ReadDesign(Design(R"(
+    {"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Value": "42", "Caption": "first\nsecond",
+     "Mode": "dmHold", "Ratio": "0.25", "Part.Level": "9", "Peer": "Gauge2"}},
+    {"class": "TDesignFileTestGauge", "name": "Gauge2", "properties": {"Peer": "Gauge1"}},
+    {"class": "TDesignFileTestGauge", "name": "Gauge3", "properties": {"Peer": ""}})"),
                                                    FRoot.get());
-  ASSERT_EQ(made.size(), 2u);
-  EXPECT_EQ(made[0]->GetName(), "Gauge1");
-  EXPECT_EQ(made[1]->GetName(), "Gauge2");
-  EXPECT_EQ(FRoot->ComponentCount(), 2);
-
+  ASSERT_EQ(made.size(), 3u);
+  EXPECT_EQ(made[0], Gauge(FRoot.get(), "Gauge1"));
+  EXPECT_EQ(made[1], Gauge(FRoot.get(), "Gauge2"));
+  EXPECT_EQ(FRoot->ComponentCount(), 3);
   const TDesignFileTestGauge* gauge = Gauge(FRoot.get(), "Gauge1");
   EXPECT_EQ(gauge->FValue, 42);
   EXPECT_EQ(gauge->FCaption, "first\nsecond");
   EXPECT_EQ(gauge->FMode, dmHold);
   EXPECT_EQ(gauge->FRatio, 0.25);
   EXPECT_EQ(gauge->FPart->FLevel, 9);
+  // References name components anywhere in the design, later ones too.
+  EXPECT_EQ(gauge->GetPeer(), made[1]);
+  EXPECT_EQ(Gauge(FRoot.get(), "Gauge2")->GetPeer(), made[0]);
+  EXPECT_EQ(Gauge(FRoot.get(), "Gauge3")->GetPeer(), nullptr);
   for (TComponent* component : made) {
     EXPECT_TRUE(static_cast<TDesignFileTestGauge*>(component)->FLoadingSeen);
     EXPECT_FALSE(component->ComponentState().Contains(csLoading));
   }
 }
 
-TEST_F(DesignFileTest, ReferencesNameComponentsAnywhereInTheDesign) {
-  ReadDesign(R"({"components": [
-    {"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Peer": "Gauge2"}},
-    {"class": "TDesignFileTestGauge", "name": "Gauge2", "properties": {"Peer": "Gauge1"}},
-    {"class": "TDesignFileTestGauge", "name": "Gauge3", "properties": {"Peer": ""}}]})",
-             FRoot.get());
-  EXPECT_EQ(Gauge(FRoot.get(), "Gauge1")->GetPeer(), Gauge(FRoot.get(), "Gauge2"));
-  EXPECT_EQ(Gauge(FRoot.get(), "Gauge2")->GetPeer(), Gauge(FRoot.get(), "Gauge1"));
-  EXPECT_EQ(Gauge(FRoot.get(), "Gauge3")->GetPeer(), nullptr);
-}
-
 TEST_F(DesignFileTest, ChildrenAreOwnedByTheRootAndParentedOnlyToAWindowControl) {
-  ReadDesign(R"({"components": [
-    {"class": "TWinControl", "name": "Panel1", "children": [
+  ReadDesign(Design(R"({"class": "TWinControl", "name": "Panel1", "children": [
       {"class": "TShape", "name": "Shape1", "properties": {"Pen.Width": "3"}},
       {"class": "TDesignFileTestGauge", "name": "Gauge1"}]},
-    {"class": "TDesignFileTestGauge", "name": "Gauge2", "children": [{"class": "TShape", "name": "Shape2"}]}]})",
+    {"class": "TDesignFileTestGauge", "name": "Gauge2", "children": [{"class": "TShape", "name": "Shape2"}]})"),
              FRoot.get());
   ASSERT_EQ(FRoot->ComponentCount(), 5);
   auto* panel = dynamic_cast<TWinControl*>(FRoot->FindComponent("Panel1"));
@@ -146,89 +145,70 @@ TEST_F(DesignFileTest, ChildrenAreOwnedByTheRootAndParentedOnlyToAWindowControl)
   EXPECT_EQ(shape1->GetPen()->GetWidth(), 3);
   EXPECT_EQ(panel->ControlCount(), 1);
   EXPECT_EQ(dynamic_cast<TShape*>(FRoot->FindComponent("Shape2"))->GetParent(), nullptr);
-}
 
-TEST(DesignFileRootTest, TopLevelControlsOfAWindowRootAreParentedToItAndSeeItsDesigningState) {
+  // Top-level controls of a window root are parented to it and see its designing state.
   TOwnedObject<TWinControl> root(Construct<TWinControl>(nullptr));
   TComponentHelper::SetIntDesigning(root.get(), true, false);
   const std::vector<TComponent*> made =
-      ReadDesign(R"({"components": [{"class": "TShape", "name": "Shape1"}, {"class": "TDesignFileTestGauge", "name": "Gauge1"}]})",
-                 root.get());
+      ReadDesign(Design(R"({"class": "TShape", "name": "Shape1"}, {"class": "TDesignFileTestGauge", "name": "Gauge1"})"), root.get());
   EXPECT_EQ(static_cast<TShape*>(made[0])->GetParent(), root.get());
   EXPECT_TRUE(made[1]->ComponentState().Contains(csDesigning));
 }
 
-struct TErrorRow {
-  const char* Design;
-  const char* Message;
-};
-
 TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
-  const TErrorRow rows[] = {
-      {R"({"components": [{"class": "TFoo", "name": "Foo1"}]})", "Unknown class 'TFoo' for component 'Foo1'"},
-      {R"({"components": [{"class": "TFont", "name": "Font1"}]})", "Class 'TFont' of component 'Font1' is no component class"},
-      {R"({"components": [{"class": "TShape", "name": "Shape1"}, {"class": "TDesignFileTestAbstract", "name": "Abstract1"}]})",
+  const std::pair<String, const char*> rows[] = {
+      {Design(R"({"class": "TFoo", "name": "Foo1"})"), "Unknown class 'TFoo' for component 'Foo1'"},
+      {Design(R"({"class": "TFont", "name": "Font1"})"), "Class 'TFont' of component 'Font1' is no component class"},
+      {Design(R"({"class": "TShape", "name": "Shape1"}, {"class": "TDesignFileTestAbstract", "name": "Abstract1"})"),
        "Cannot create component 'Abstract1' of class 'TDesignFileTestAbstract': Cannot create an instance of the abstract class"},
-      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Colour": "1"}}]})",
-       "Unknown property 'Colour' of component 'Gauge1' (TDesignFileTestGauge)"},
-      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Secret": "1"}}]})",
-       "Unknown property 'Secret' of component 'Gauge1' (TDesignFileTestGauge)"},
-      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Value.Low": "1"}}]})",
-       "Unknown property 'Value.Low' of component 'Gauge1' (TDesignFileTestGauge)"},
-      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Part.Size": "1"}}]})",
-       "Unknown property 'Part.Size' of component 'Gauge1' (TDesignFileTestGauge)"},
-      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Spare.Level": "1"}}]})",
-       "Cannot reach 'Spare.Level' of component 'Gauge1': 'Spare' is nil"},
-      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Value": "abc"}}]})",
+      {Gauge1(R"("Colour": "1")"), "Unknown property 'Colour' of component 'Gauge1' (TDesignFileTestGauge)"},
+      {Gauge1(R"("Secret": "1")"), "Unknown property 'Secret' of component 'Gauge1' (TDesignFileTestGauge)"},
+      {Gauge1(R"("Value.Low": "1")"), "Unknown property 'Value.Low' of component 'Gauge1' (TDesignFileTestGauge)"},
+      {Gauge1(R"("Part.Size": "1")"), "Unknown property 'Part.Size' of component 'Gauge1' (TDesignFileTestGauge)"},
+      {Gauge1(R"("Spare.Level": "1")"), "Cannot reach 'Spare.Level' of component 'Gauge1': 'Spare' is nil"},
+      {Gauge1(R"("Value": "abc")"),
        "Invalid value 'abc' for 'Value' of component 'Gauge1': 'abc' is not a valid value for Value"},
-      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Mode": "dmFast"}}]})",
-       "Invalid value 'dmFast' for 'Mode' of component 'Gauge1'"},
-      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Ratio": "-1"}}]})",
-       "Invalid value '-1' for 'Ratio' of component 'Gauge1': Ratio must not be negative"},
-      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Value": 5}}]})",
-       "The value of 'Value' of component 'Gauge1' must be a text"},
-      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Peer": "Nobody"}}]})",
-       "Unknown component 'Nobody' for 'Peer' of component 'Gauge1'"},
-      {R"({"components": [{"class": "TShape", "name": "Shape1"},
-                          {"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Peer": "Shape1"}}]})",
+      {Gauge1(R"("Mode": "dmFast")"), "Invalid value 'dmFast' for 'Mode' of component 'Gauge1'"},
+      {Gauge1(R"("Ratio": "-1")"), "Invalid value '-1' for 'Ratio' of component 'Gauge1': Ratio must not be negative"},
+      {Gauge1(R"("Value": 5)"), "The value of 'Value' of component 'Gauge1' must be a text"},
+      {Gauge1(R"("Peer": "Nobody")"), "Unknown component 'Nobody' for 'Peer' of component 'Gauge1'"},
+      {Design(R"({"class": "TShape", "name": "Shape1"},
+                 {"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Peer": "Shape1"}})"),
        "Component 'Shape1' is no TDesignFileTestGauge for 'Peer' of component 'Gauge1'"},
-      {R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1"},
-                          {"class": "TWinControl", "name": "Panel1", "children": [{"class": "TShape", "name": "gauge1"}]}]})",
+      {Design(R"({"class": "TDesignFileTestGauge", "name": "Gauge1"},
+                 {"class": "TWinControl", "name": "Panel1", "children": [{"class": "TShape", "name": "gauge1"}]})"),
        "Duplicate component name 'gauge1' at components[1].children[0]"},
-      {R"({"components": [{"class": "TShape", "name": "1st"}]})", "Invalid component name '1st' at components[0]"},
-      {R"({"components": [{"name": "Shape1"}]})", "components[0]: \"class\" must be given as a text"},
-      {R"({"components": [{"class": "TShape", "name": "Shape1", "colour": "red"}]})", "components[0]: unknown key \"colour\""},
+      {Design(R"({"class": "TShape", "name": "1st"})"), "Invalid component name '1st' at components[0]"},
+      {Design(R"({"name": "Shape1"})"), "components[0]: \"class\" must be given as a text"},
+      {Design(R"({"class": "TShape", "name": "Shape1", "colour": "red"})"), "components[0]: unknown key \"colour\""},
       {R"({"components": {"class": "TShape"}})", "components must be a list of components"},
       {R"({"parts": []})", "The design: unknown key \"parts\""},
       {R"({})", "The design has no \"components\""},
       {R"({"components": [}")", "The design is no valid JSON: parse error at line 1, column 17"},
   };
-  for (const TErrorRow& row : rows) {
+  for (const auto& [design, message] : rows) {
     try {
-      ReadDesign(row.Design, FRoot.get());
-      ADD_FAILURE() << "read without an error: " << row.Design;
+      ReadDesign(design, FRoot.get());
+      ADD_FAILURE() << "read without an error: " << design;
     } catch (const EDesignFileError& e) {
-      EXPECT_EQ(e.Message().substr(0, std::strlen(row.Message)), row.Message) << row.Design;
+      EXPECT_EQ(e.Message().substr(0, std::strlen(message)), message) << design;
     }
-    EXPECT_EQ(FRoot->ComponentCount(), 0) << row.Design;
+    EXPECT_EQ(FRoot->ComponentCount(), 0) << design;
   }
 }
 
-TEST_F(DesignFileTest, AFileThatCannotBeReadIsNamed) {
-  EXPECT_THROW(
-      try { ReadDesignFile("/nonexistent/design.json", FRoot.get()); } catch (const EDesignFileError& e) {
-        EXPECT_EQ(e.Message(), "Cannot open design file '/nonexistent/design.json'");
-        throw;
-      },
-      EDesignFileError);
-
+TEST_F(DesignFileTest, ErrorsOfAFileNameTheFile) {
   const String path = ::testing::TempDir() + "design_file_test.json";
-  std::ofstream(path) << R"({"components": [{"class": "TFoo", "name": "Foo1"}]})";
-  try {
-    ReadDesignFile(path, FRoot.get());
-    ADD_FAILURE() << "read a design with an unknown class";
-  } catch (const EDesignFileError& e) {
-    EXPECT_EQ(e.Message(), path + ": Unknown class 'TFoo' for component 'Foo1'");
+  std::ofstream(path) << Design(R"({"class": "TFoo", "name": "Foo1"})");
+  for (const auto& [file, message] : {std::pair<String, String>{"/nonexistent/design.json",
+                                                                "Cannot open design file '/nonexistent/design.json'"},
+                                      {path, path + ": Unknown class 'TFoo' for component 'Foo1'"}}) {
+    try {
+      ReadDesignFile(file, FRoot.get());
+      ADD_FAILURE() << "read " << file;
+    } catch (const EDesignFileError& e) {
+      EXPECT_EQ(e.Message(), message);
+    }
   }
   std::remove(path.c_str());
 }
@@ -250,27 +230,25 @@ TEST_F(DesignFileTest, WritingKeepsStoredNonDefaultMembersAsTextAndReferencesByN
   shape->SetName("Shape1");
   shape->SetParent(panel);
 
-  const TJson expected = TJson::parse(R"({"components": [
+  const TJson expected = TJson::parse(Design(R"(
     {"class": "TDesignFileTestGauge", "name": "Gauge1",
      "properties": {"Caption": "a \"quoted\" text", "Mode": "dmRun", "Peer": "Gauge2", "Part.Level": "7"}},
     {"class": "TDesignFileTestGauge", "name": "Gauge2"},
-    {"class": "TWinControl", "name": "Panel1",
-     "properties": {"Left": "0", "Top": "0", "Width": "0", "Height": "0"},
+    {"class": "TWinControl", "name": "Panel1", "properties": {"Left": "0", "Top": "0", "Width": "0", "Height": "0"},
      "children": [{"class": "TShape", "name": "Shape1",
-                   "properties": {"Left": "0", "Top": "0", "Width": "65", "Height": "65"}}]}]})");
+                   "properties": {"Left": "0", "Top": "0", "Width": "65", "Height": "65"}}]})"));
   EXPECT_EQ(TJson::parse(WriteDesign(FRoot.get())), expected) << WriteDesign(FRoot.get());
 }
 
 TEST_F(DesignFileTest, AWrittenDesignReadsBackToTheSameDesign) {
-  ReadDesign(R"({"components": [
+  ReadDesign(Design(R"(
     {"class": "TDesignFileTestGauge", "name": "Gauge1",
      "properties": {"Value": "-3", "Caption": "line one\nline two", "Ratio": "0.125", "Peer": "Gauge2", "Part.Level": "0"}},
     {"class": "TDesignFileTestGauge", "name": "Gauge2", "properties": {"Mode": "dmHold"}},
     {"class": "TWinControl", "name": "Panel1", "properties": {"Width": "100", "Color": "255"}, "children": [
-      {"class": "TShape", "name": "Shape1", "properties": {"Shape": "stCircle", "Brush.Color": "65280", "Anchors": "[akRight]"}}]}]})",
+      {"class": "TShape", "name": "Shape1", "properties": {"Shape": "stCircle", "Brush.Color": "65280", "Anchors": "[akRight]"}}]})"),
              FRoot.get());
   const String written = WriteDesign(FRoot.get());
-
   TOwnedObject<TComponent> copy(Construct<TComponent>(nullptr));
   ReadDesign(written, copy.get());
   EXPECT_EQ(WriteDesign(copy.get()), written);
@@ -285,8 +263,7 @@ TEST_F(DesignFileTest, NumbersUseTheInvariantSettingsWhateverTheHostSet) {
     ~TRestore() { FormatSettings = Saved; }
   } restore;
   FormatSettings.DecimalSeparator = ',';
-  ReadDesign(R"({"components": [{"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Ratio": "0.75"}}]})",
-             FRoot.get());
+  ReadDesign(Gauge1(R"("Ratio": "0.75")"), FRoot.get());
   EXPECT_EQ(Gauge(FRoot.get(), "Gauge1")->FRatio, 0.75);
   const String written = WriteDesign(FRoot.get());
   EXPECT_NE(written.find("\"Ratio\": \"0.75\""), String::npos) << written;

@@ -8,8 +8,6 @@
 namespace Tarvo {
 namespace {
 
-using TMaker = std::function<TChangeNotifyPersistent*()>;
-
 // Counts the change notices of a drawing setting.
 struct TNoticeCounter {
   explicit TNoticeCounter(TChangeNotifyPersistent& ATarget) : Handler(ATarget.AddChangeHandler([this] { ++Count; })) {}
@@ -18,29 +16,26 @@ struct TNoticeCounter {
 };
 
 TEST(GraphicsNotificationTest, EachReflectedWriteThatChangesAValueTellsOnce) {
-  const TMaker font = [] { return Construct<TFont>(); };
-  const TMaker pen = [] { return Construct<TPen>(); };
-  const TMaker brush = [] { return Construct<TBrush>(); };
-  const struct {
-    TMaker Make;
-    const char* Member;
-    const char* Text;
-  } cases[] = {
+  using TMaker = std::function<TChangeNotifyPersistent*()>;
+  const TMaker font = [] { return Construct<TFont>(); }, pen = [] { return Construct<TPen>(); },
+               brush = [] { return Construct<TBrush>(); };
+  const std::tuple<TMaker, const char*, const char*> cases[] = {
       {font, "Name", "Serif"},   {font, "Size", "12"},      {font, "Height", "-20"}, {font, "Color", "255"},
       {font, "Style", "[fsBold,fsItalic]"}, {font, "Charset", "0"}, {pen, "Color", "255"},  {pen, "Width", "3"},
       {pen, "Style", "psDot"},   {brush, "Color", "0"},     {brush, "Style", "bsCross"},
   };
-  for (const auto& c : cases) {
-    const TOwnedObject<TChangeNotifyPersistent> object(c.Make());
+  for (const auto& [make, name, text] : cases) {
+    const TOwnedObject<TChangeNotifyPersistent> object(make());
+    SCOPED_TRACE(String(object->ClassName()) + "." + name);
     TNoticeCounter notices(*object);
     TRef<IValueMemberInfo> member;
-    ASSERT_TRUE(TRttiObjectHelper::TypeInfo(object.get(), false)->FindMember(c.Member, member)) << c.Member;
-    EXPECT_TRUE(member->GetIsDefault(object.get(), true)) << object->ClassName() << "." << c.Member;
-    member->SetFromString(object.get(), c.Text);
-    EXPECT_EQ(notices.Count, 1) << object->ClassName() << "." << c.Member;
-    EXPECT_EQ(member->GetValue(object.get()).ToString(), c.Text);
-    member->SetFromString(object.get(), c.Text); // the same value again: no change
-    EXPECT_EQ(notices.Count, 1) << object->ClassName() << "." << c.Member;
+    ASSERT_TRUE(TRttiObjectHelper::TypeInfo(object.get(), false)->FindMember(name, member));
+    EXPECT_TRUE(member->GetIsDefault(object.get(), true));
+    member->SetFromString(object.get(), text);
+    EXPECT_EQ(notices.Count, 1);
+    EXPECT_EQ(member->GetValue(object.get()).ToString(), text);
+    member->SetFromString(object.get(), text); // the same value again: no change
+    EXPECT_EQ(notices.Count, 1);
   }
 }
 
@@ -75,18 +70,14 @@ TEST(GraphicsNotificationTest, BracketsTellOnceAndRemovedHandlersHearNothing) {
   EXPECT_EQ(notices.Count, 3);
 }
 
-TEST(GraphicsValueTest, SizeAndHeightAreTwoViewsOfOneValue) {
+TEST(GraphicsValueTest, FontSizeAndHeightAreTwoViewsOfOneValueAndAColouredClearBrushTurnsSolid) {
   const TOwnedObject<TFont> font(Construct<TFont>());
   EXPECT_EQ(font->GetSize(), 9);
-  const std::pair<Integer, Integer> sizeToHeight[] = {{8, -11}, {10, -13}, {12, -16}, {72, -96}};
-  for (const auto& [size, height] : sizeToHeight) {
+  for (const auto& [size, height] : {std::pair{8, -11}, {10, -13}, {12, -16}, {72, -96}}) {
     font->SetSize(size);
     EXPECT_EQ(font->GetHeight(), height) << size;
     EXPECT_EQ(font->GetSize(), size) << size;
   }
-}
-
-TEST(GraphicsValueTest, AClearBrushGivenAColourTurnsSolidInOneNotice) {
   const TOwnedObject<TBrush> brush(Construct<TBrush>());
   brush->SetStyle(bsClear);
   TNoticeCounter notices(*brush);
@@ -96,28 +87,26 @@ TEST(GraphicsValueTest, AClearBrushGivenAColourTurnsSolidInOneNotice) {
 }
 
 TEST(GraphicsAssignTest, CopiesItsOwnClassOnceAndRefusesOthers) {
-  const TOwnedObject<TFont> font(Construct<TFont>());
-  const TOwnedObject<TFont> source(Construct<TFont>());
+  const TOwnedObject<TFont> font(Construct<TFont>()), source(Construct<TFont>());
   source->SetName("Mono");
   source->SetStyle({fsUnderline});
   TNoticeCounter notices(*font);
   font->Assign(source.get());
+  font->Assign(source.get());
   EXPECT_EQ(font->GetName(), "Mono");
   EXPECT_EQ(font->GetStyle(), TFontStyles{fsUnderline});
-  font->Assign(source.get());
   EXPECT_EQ(notices.Count, 1);
 
   const TOwnedObject<TPen> pen(Construct<TPen>());
-  const auto message = [&](TPersistent* ASource) {
+  for (const auto& [other, message] : {std::pair<TPersistent*, String>{pen.get(), "Cannot assign a TPen to a TFont"},
+                                       {nullptr, "Cannot assign a nil to a TFont"}}) {
     try {
-      font->Assign(ASource);
+      font->Assign(other);
+      ADD_FAILURE() << message;
     } catch (const EConvertError& e) {
-      return String(e.what());
+      EXPECT_EQ(String(e.what()), message);
     }
-    return String();
-  };
-  EXPECT_EQ(message(pen.get()), "Cannot assign a TPen to a TFont");
-  EXPECT_EQ(message(nullptr), "Cannot assign a nil to a TFont");
+  }
 }
 
 } // namespace
