@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "tests/containers/ListTestSupport.h"
 
 namespace Tarvo::Testing {
@@ -13,70 +11,49 @@ IntList Make(const V& AItems) {
   list->Append(AItems);
   return list;
 }
+const TConstFunc<int, Boolean> IsEven = [](const int& A) { return A % 2 == 0; };
 
-TEST(ArrayListTest, DeletePastTheEndIsIgnoredWhileReadingFails) {
+TEST(ArrayListTest, IndexBoundaries) {
   IntList list = Make({1, 2, 3});
-  list->Delete(3)->Delete(100);
+  list->Delete(3)->Delete(100)->Delete(3, 10); // at or past the end: ignored
   EXPECT_EQ(Contents(list), (V{1, 2, 3}));
-  EXPECT_THROW(list->GetItem(3), EListError);
-  EXPECT_THROW(list->GetItem(-1), EListError);
-  EXPECT_THROW(list->Delete(-1), EListError);
-  EXPECT_THROW(list->SetItem(3, 0), EListError);
-  EXPECT_THROW(list->Swap(0, 3), EListError);
-
-  list->Append(V{4, 5})->Delete(1, 2);
-  EXPECT_EQ(Contents(list), (V{1, 4, 5}));
-  list->Delete(3, 10); // a range that starts past the end: ignored
-  EXPECT_THROW(list->Delete(1, 3), EListError);
-  EXPECT_EQ(Contents(list), (V{1, 4, 5}));
-}
-
-TEST(ArrayListTest, InsertAtRisingIndices) {
-  IntList list = Make({1, 5});
-  list->Insert(1, Make({2, 3, 4}))->Insert(5, 6);
-  EXPECT_EQ(Contents(list), (V{1, 2, 3, 4, 5, 6}));
-  EXPECT_THROW(list->Insert(7, 9), EListError);
-  list->Delete(2, 4)->Insert(1, list); // inserting itself inserts what it held
+  for (const auto& call : std::vector<std::function<void()>>{
+           [&] { list->GetItem(3); }, [&] { list->GetItem(-1); }, [&] { list->Delete(-1); },
+           [&] { list->SetItem(3, 0); }, [&] { list->Swap(0, 3); }, [&] { list->Delete(1, 3); },
+           [&] { list->Insert(4, 9); }})
+    EXPECT_THROW(call(), EListError);
+  EXPECT_EQ(Contents(list), (V{1, 2, 3}));
+  list->Delete(1, 2)->Insert(1, Make({2, 3, 4}))->Insert(4, 5);
+  EXPECT_EQ(Contents(list), (V{1, 2, 3, 4, 5}));
+  list->Delete(2, 3)->Insert(1, list); // inserting itself inserts what it held
   EXPECT_EQ(Contents(list), (V{1, 1, 2, 2}));
-}
-
-TEST(ArrayListTest, SelfAppendAndSelfAssignLeaveTheListUnchanged) {
-  IntList list = Make({1, 2});
-  list->Append(list)->Assign(list);
-  EXPECT_EQ(Contents(list), (V{1, 2}));
+  list->Append(list)->Assign(list); // appending or assigning itself does nothing
+  EXPECT_EQ(Contents(list), (V{1, 1, 2, 2}));
   list->Assign(Make({7}));
   EXPECT_EQ(Contents(list), (V{7}));
 }
 
-TEST(ArrayListTest, RemoveOneAnswersTheIndexOrMinusOne) {
+TEST(ArrayListTest, RemovalForms) {
   IntList list = Make({5, 6, 5});
   EXPECT_EQ(list->RemoveOne(5), 0);
   EXPECT_EQ(list->RemoveOne(9), -1);
   EXPECT_EQ(Contents(list), (V{6, 5}));
-}
 
-TEST(ArrayListTest, RemoveAllOfAnotherListTakesTheLastOccurrenceOncePerElement) {
-  IntList list = Make({1, 2, 1, 3, 1});
+  // Per element of the other list, the last equal element goes.
+  list = Make({1, 2, 1, 3, 1});
   list->RemoveAll(Make({1, 3}));
   EXPECT_EQ(Contents(list), (V{1, 2, 1}));
-  list->RemoveAll(Make({1}));
-  EXPECT_EQ(Contents(list), (V{1, 2}));
-  list->RemoveAll(Make({1, 1, 1}));
+  list->RemoveAll(Make({1, 1}));
   EXPECT_EQ(Contents(list), (V{2}));
-}
 
-TEST(ArrayListTest, RemoveAllByPredicateGoesFromTheLastIndexDown) {
-  IntList list = Make({1, 2, 3, 4});
+  // By predicate from the last index down, the procedure seeing each removed element.
+  list = Make({1, 2, 3, 4});
   V found;
-  list->RemoveAll([](const int& A) { return A % 2 == 0; }, [&](const int& A) { found.push_back(A); });
+  list->RemoveAll(IsEven, [&](const int& A) { found.push_back(A); });
   EXPECT_EQ(found, (V{4, 2}));
   EXPECT_EQ(Contents(list), (V{1, 3}));
-  list->RemoveAll(1)->RemoveAll([](int A) { return A == 3; });
-  EXPECT_EQ(list->GetCount(), 0);
-}
 
-TEST(ArrayListTest, FindAndRemoveOneForms) {
-  IntList list = Make({1, 2, 3, 2});
+  list = Make({1, 2, 3, 2});
   int item = -1;
   EXPECT_FALSE(list->FindAndRemoveOne([](const int& A) { return A > 5; }, item));
   EXPECT_EQ(item, -1); // untouched
@@ -94,78 +71,81 @@ TEST(ArrayListTest, FindOrAddMakesAnElementOnlyWhenNoneMatches) {
   EXPECT_EQ(list->FindOrAdd([](const int& A) { return A == 3; }, create), 100);
   EXPECT_EQ(list->FindOrAdd([](const int& A) { return A == 4; }, 4), 4);
   EXPECT_EQ(made, 1);
-  EXPECT_EQ(Contents(list), (V{1, 2, 100, 4}));
   list->AddUnique(4)->AddUnique(5);
   EXPECT_EQ(Contents(list), (V{1, 2, 100, 4, 5}));
 }
 
 TEST(ArrayListTest, NilArgumentsAreAssertionFailures) {
   IntList list = Make({1});
-  EXPECT_THROW(list->Append(TRef<IEnumerable<int>>()), EAssertionFailed);
-  EXPECT_THROW(list->Assign(nullptr), EAssertionFailed);
-  EXPECT_THROW(list->RemoveAll(TRef<IEnumerable<int>>()), EAssertionFailed);
-  EXPECT_THROW(list->RemoveOne(nullptr), EAssertionFailed);
-  EXPECT_THROW(list->FindOrAdd(nullptr, 1), EAssertionFailed);
-  EXPECT_THROW(list->FindOrAdd([](const int&) { return false; }, TFunc<int>()), EAssertionFailed);
-  EXPECT_THROW(TArrayList<int>::CreateEnumerator(nullptr), EAssertionFailed);
-  EXPECT_THROW(TArrayList<int>::CreateCopy(nullptr), EAssertionFailed);
+  const TFunc<Integer, int> item = [](Integer AIndex) { return AIndex; };
+  ExpectAssertions({[&] { list->Append(TRef<IEnumerable<int>>()); }, [&] { list->Assign(nullptr); },
+                    [&] { list->RemoveAll(TRef<IEnumerable<int>>()); }, [&] { list->RemoveOne(nullptr); },
+                    [&] { list->FindOrAdd(nullptr, 1); }, [&] { list->FindOrAdd(IsEven, TFunc<int>()); },
+                    [] { TArrayList<int>::CreateEnumerator(nullptr); }, [] { TArrayList<int>::CreateCopy(nullptr); },
+                    [&] { New<TBasicListEnumerator<int>>(nullptr, item); },
+                    [] { New<TBasicListEnumerator<int>>([] { return 1; }, nullptr); },
+                    [] { New<TReverseEnumeratorHost<int>>(nullptr); }});
   EXPECT_EQ(Contents(list), (V{1}));
 }
 
-TEST(ArrayListTest, WhichOperationsNotify) {
-  struct Row {
-    const char* Name;
-    std::function<void(const IntList&)> Operation;
-    int Notifications;
+// What each operation does to {3, 2, 1} and how often it notifies.
+TEST(ArrayListTest, OperationsAndTheirNotifications) {
+  const std::tuple<std::function<void(const IntList&)>, V, int> rows[] = {
+      {[](const IntList& L) { L->Add(9); }, {3, 2, 1, 9}, 1},
+      {[](const IntList& L) { L->AddFront(9); }, {9, 3, 2, 1}, 1},
+      {[](const IntList& L) { L->Append(V{8, 9}); }, {3, 2, 1, 8, 9}, 2},
+      {[](const IntList& L) { L->RemoveOne(2); }, {3, 1}, 1},
+      {[](const IntList& L) { L->RemoveOne(7); }, {3, 2, 1}, 1}, // absent: notifies all the same
+      {[](const IntList& L) { L->ClearValues(); }, {}, 1},
+      {[](const IntList& L) { L->Insert(0, 9); }, {9, 3, 2, 1}, 0},
+      {[](const IntList& L) { L->Delete(0); }, {2, 1}, 0},
+      {[](const IntList& L) { L->Delete(0, 2); }, {1}, 0},
+      {[](const IntList& L) { L->Clear(); }, {}, 0},
+      {[](const IntList& L) { L->SetItem(0, 9); }, {9, 2, 1}, 0},
+      {[](const IntList& L) { L->Swap(0, 2); }, {1, 2, 3}, 0},
+      {[](const IntList& L) { L->Sort(); }, {1, 2, 3}, 0},
+      {[](const IntList& L) { L->IfRemoveOne([](const int& A) { return A == 1; }); }, {3, 2}, 0},
+      {[](const IntList& L) { L->Append(V{2})->RemoveAll(2); }, {3, 1}, 1},
   };
-  const Row rows[] = {
-      {"Add", [](const IntList& L) { L->Add(9); }, 1},
-      {"AddFront", [](const IntList& L) { L->AddFront(9); }, 1},
-      {"Append", [](const IntList& L) { L->Append(V{8, 9}); }, 2},
-      {"RemoveOne found", [](const IntList& L) { L->RemoveOne(2); }, 1},
-      {"RemoveOne absent", [](const IntList& L) { L->RemoveOne(7); }, 1},
-      {"ClearValues", [](const IntList& L) { L->ClearValues(); }, 1},
-      {"Insert", [](const IntList& L) { L->Insert(0, 9); }, 0},
-      {"Delete", [](const IntList& L) { L->Delete(0); }, 0},
-      {"Delete range", [](const IntList& L) { L->Delete(0, 2); }, 0},
-      {"Clear", [](const IntList& L) { L->Clear(); }, 0},
-      {"SetItem", [](const IntList& L) { L->SetItem(0, 9); }, 0},
-      {"Swap", [](const IntList& L) { L->Swap(0, 2); }, 0},
-      {"Sort", [](const IntList& L) { L->Sort(); }, 0},
-      {"IfRemoveOne", [](const IntList& L) { L->IfRemoveOne([](const int& A) { return A == 1; }); }, 0},
-      {"RemoveAll", [](const IntList& L) { L->RemoveAll(1); }, 0},
-  };
-  for (const Row& row : rows) {
+  for (std::size_t i = 0; i < std::size(rows); ++i) {
     IntList list = Make({3, 2, 1});
     TCounter counter;
     list->AddChangeHandler(counter.Handler());
-    row.Operation(list);
-    EXPECT_EQ(counter.Count, row.Notifications) << row.Name;
+    std::get<0>(rows[i])(list);
+    EXPECT_EQ(Contents(list), std::get<1>(rows[i])) << "row " << i;
+    EXPECT_EQ(counter.Count, std::get<2>(rows[i])) << "row " << i;
   }
 }
 
-TEST(ArrayListTest, DeletingTheCurrentElementPassesOverTheNext) {
+TEST(ArrayListTest, Walks) {
   IntList list = Make({1, 2, 3, 4});
   V seen;
   for (const TRef<IEnumerator<int>> walk = list->GetEnumerator(); walk->MoveNext();) {
     seen.push_back(walk->GenericGetCurrent());
-    if (seen.back() == 2) list->Delete(1);
+    if (seen.back() == 2) list->Delete(1); // deleting the current element passes over the next
   }
   EXPECT_EQ(seen, (V{1, 2, 4}));
-}
 
-TEST(ArrayListTest, ReverseWalkAndRangeFor) {
-  IntList list = Make({1, 2, 3});
-  EXPECT_EQ(Contents(TArrayList<int>::CreateEnumerator(list->GetReverseEnumerator())), (V{3, 2, 1}));
+  EXPECT_EQ(Contents(TArrayList<int>::CreateEnumerator(list->GetReverseEnumerator())), (V{4, 3, 1}));
   const TRef<IReverseEnumeratorHost<int>> reverse = list->GetReverse();
-  V seen;
+  seen.clear();
   for (int item : *reverse) seen.push_back(item);
   for (int item : *list) seen.push_back(item);
-  EXPECT_EQ(seen, (V{3, 2, 1, 1, 2, 3}));
+  EXPECT_EQ(seen, (V{4, 3, 1, 1, 3, 4}));
   const TRef<IEnumerator<int>> walk = reverse->GetEnumerator();
   walk->MoveNext();
   walk->Reset();
-  EXPECT_EQ(Walk(walk), (V{3, 2, 1}));
+  EXPECT_EQ(Walk(walk), (V{4, 3, 1}));
+
+  // The count is asked on every step.
+  Integer count = 3;
+  const auto counted = New<TBasicListEnumerator<int>>([&] { return count; }, [](Integer AIndex) { return AIndex * 10; });
+  ASSERT_TRUE(counted->MoveNext());
+  count = 5;
+  EXPECT_EQ(Walk<int>(counted), (V{10, 20, 30, 40}));
+  counted->Reset();
+  count = 1;
+  EXPECT_EQ(Walk<int>(counted), (V{0}));
 }
 
 TEST(ArrayListTest, SortByComparisonOrByTheOrdinalCaseSensitiveDefault) {
@@ -186,8 +166,7 @@ TEST(ArrayListTest, UntypedAccessThroughValues) {
   EXPECT_EQ(fresh.GetTypeInfo(), TypeInfo<int>());
   EXPECT_EQ(fresh.AsInteger(), 0);
   std::vector<Integer> values;
-  for (const TRef<IEnumerator<TValue>> walk = untyped->GetValueEnumerator(); walk->MoveNext();)
-    values.push_back(walk->GenericGetCurrent().AsInteger());
+  for (const TValue& value : Walk(untyped->GetValueEnumerator())) values.push_back(value.AsInteger());
   EXPECT_EQ(values, (V{1, 2}));
 
   // Interface elements travel as interface values.
@@ -198,6 +177,40 @@ TEST(ArrayListTest, UntypedAccessThroughValues) {
   TRef<IList>(interfaces)->AddValue(TValue::From(TRef<IInterface>(list)));
   ASSERT_EQ(interfaces->GetCount(), 1);
   EXPECT_TRUE(interfaces->GetItem(0) == list);
+
+  // The value walk of an object list forwards the untyped current element.
+  const TRef<TTestElement> element = New<TTestElement>();
+  const TRef<TObjectArrayList> objects = New<TObjectArrayList>();
+  objects->Add(element.get());
+  const TRef<IEnumerator<TValue>> walk = objects->GetValueEnumerator();
+  ASSERT_TRUE(walk->MoveNext());
+  EXPECT_EQ(walk->GetCurrent(), element.get());
+  EXPECT_EQ(walk->GenericGetCurrent().AsObject(), element.get());
+}
+
+// A list's query gives new array lists and reruns over the list as it stands.
+TEST(ArrayListTest, Queries) {
+  const TRef<IArrayList<int>> list = TArrayList<int>::CreateArray({1, 2, 3});
+  const auto query = list->Query();
+  EXPECT_EQ(query->Count([](const int& A) { return A > 1; }), 2);
+  const TRef<IArrayList<int>> copy = query->Skip(0);
+  EXPECT_FALSE(copy == list);
+  list->Add(4);
+  EXPECT_EQ(query->Count([](const int& A) { return A > 1; }), 3);
+  EXPECT_EQ(Contents(copy), (V{1, 2, 3}));
+  EXPECT_EQ(Contents(list->Query()->Filter([](const int& A) { return A != 2; })), (V{1, 3, 4}));
+  EXPECT_TRUE(list->Query()->ForEach([](const int&) {}) == list);
+  EXPECT_EQ(Contents(list->Query(true)->Take(2)), (V{4, 3}));
+  Integer index = 0;
+  EXPECT_TRUE(list->Query(true)->IndexOf(1, index));
+  EXPECT_EQ(index, 3);
+
+  TRef<IQuery<String>> kept;
+  {
+    const TRef<IStringArrayList> names = TStringArrayList::CreateArray({"b", "a"});
+    kept = names->Query();
+  }
+  EXPECT_EQ(kept->First(), "b"); // the query keeps its list alive
 }
 
 } // namespace

@@ -1,18 +1,18 @@
-#include <gtest/gtest.h>
-
 #include <deque>
 #include <memory>
-#include <vector>
 
 #include "containers/ComponentEnumerators.h"
+#include "tests/containers/ListTestSupport.h"
 
-namespace Tarvo {
+namespace Tarvo::Testing {
 namespace {
 
 struct TNode {
   String Name;
   std::vector<TNode*> Children;
 };
+
+using TNames = std::vector<String>;
 
 // root: A (A1 (A1a), A2), B, C (C1)
 class ComponentEnumeratorTest : public ::testing::Test {
@@ -30,21 +30,15 @@ protected:
     Add(Add(&Root, "C"), "C1");
   }
 
-  template <class TWalk> static std::vector<String> Names(TNode* ARoot) {
-    return Walk(New<TWalk>(ARoot, GetCount, GetItem));
-  }
-  static std::vector<String> Walk(const TRef<IEnumerator<TNode*>>& AEnumerator) {
-    std::vector<String> result;
-    while (AEnumerator->MoveNext()) result.push_back(AEnumerator->GenericGetCurrent()->Name);
+  template <class TWalk> static TRef<IEnumerator<TNode*>> Make(TNode* ARoot) { return New<TWalk>(ARoot, GetCount, GetItem); }
+  static TNames Names(const TRef<IEnumerator<TNode*>>& AEnumerator) {
+    TNames result;
+    for (TNode* node : Walk(AEnumerator)) result.push_back(node->Name);
     return result;
   }
 
-  static inline const TFunc<TNode*, Integer> GetCount = [](TNode* ANode) {
-    return static_cast<Integer>(ANode->Children.size());
-  };
-  static inline const TFunc<TNode*, Integer, TNode*> GetItem = [](TNode* ANode, Integer AIndex) {
-    return ANode->Children.at(AIndex);
-  };
+  static inline const TFunc<TNode*, Integer> GetCount = [](TNode* A) { return static_cast<Integer>(A->Children.size()); };
+  static inline const TFunc<TNode*, Integer, TNode*> GetItem = [](TNode* A, Integer AIndex) { return A->Children.at(AIndex); };
 
   TNode Root{"Root", {}};
 
@@ -52,56 +46,52 @@ private:
   std::deque<TNode> FNodes;
 };
 
-using TNames = std::vector<String>;
+using TForward = TComponentEnumerator<TNode*>;
+using TReverse = TComponentReverseEnumerator<TNode*>;
+using TForwardRecursive = TComponentEnumeratorRecursive<TNode*>;
+using TReverseRecursive = TComponentReverseEnumeratorRecursive<TNode*>;
 
 TEST_F(ComponentEnumeratorTest, WalkOrders) {
   TNode leaf{"Leaf", {}};
   const std::pair<TNames, TNames> walks[] = {
-      {Names<TComponentEnumerator<TNode*>>(&Root), {"A", "B", "C"}},
-      {Names<TComponentReverseEnumerator<TNode*>>(&Root), {"C", "B", "A"}},
-      {Names<TComponentEnumeratorRecursive<TNode*>>(&Root), {"A", "A1", "A1a", "A2", "B", "C", "C1"}},
-      {Names<TComponentReverseEnumeratorRecursive<TNode*>>(&Root), {"C1", "C", "B", "A2", "A1a", "A1", "A"}},
-      {Names<TComponentEnumerator<TNode*>>(&leaf), {}},
-      {Names<TComponentReverseEnumerator<TNode*>>(&leaf), {}},
-      {Names<TComponentEnumeratorRecursive<TNode*>>(&leaf), {}},
-      {Names<TComponentReverseEnumeratorRecursive<TNode*>>(&leaf), {}}};
+      {Names(Make<TForward>(&Root)), {"A", "B", "C"}},
+      {Names(Make<TReverse>(&Root)), {"C", "B", "A"}},
+      {Names(Make<TForwardRecursive>(&Root)), {"A", "A1", "A1a", "A2", "B", "C", "C1"}},
+      {Names(Make<TReverseRecursive>(&Root)), {"C1", "C", "B", "A2", "A1a", "A1", "A"}},
+      {Names(Make<TForward>(&leaf)), {}},
+      {Names(Make<TReverse>(&leaf)), {}},
+      {Names(Make<TForwardRecursive>(&leaf)), {}},
+      {Names(Make<TReverseRecursive>(&leaf)), {}}};
   for (std::size_t i = 0; i < std::size(walks); ++i) EXPECT_EQ(walks[i].first, walks[i].second) << "walk " << i;
+
+  const auto leaves = New<TFilterEnumerator<TNode*>>(Make<TForwardRecursive>(&Root),
+                                                     [](TNode* const& A) { return A->Children.empty(); });
+  EXPECT_EQ(Names(leaves), (TNames{"A1a", "A2", "B", "C1"}));
+  leaves->Reset();
+  EXPECT_EQ(Names(leaves), (TNames{"A1a", "A2", "B", "C1"}));
 }
 
-TEST_F(ComponentEnumeratorTest, ResetInsideASubtreeStartsOver) {
-  const TRef<IEnumerator<TNode*>> forward = New<TComponentEnumeratorRecursive<TNode*>>(&Root, GetCount, GetItem);
-  const TRef<IEnumerator<TNode*>> reverse =
-      New<TComponentReverseEnumeratorRecursive<TNode*>>(&Root, GetCount, GetItem);
+TEST_F(ComponentEnumeratorTest, ResetInsideASubtreeStartsOverAndLostChildrenEndAWalk) {
+  const TRef<IEnumerator<TNode*>> forward = Make<TForwardRecursive>(&Root), reverse = Make<TReverseRecursive>(&Root);
   for (const auto& walk : {forward, reverse}) {
     for (int i = 0; i < 4; ++i) walk->MoveNext(); // inside the subtree of A either way
     walk->Reset();
   }
-  EXPECT_EQ(Walk(forward), Names<TComponentEnumeratorRecursive<TNode*>>(&Root));
-  EXPECT_EQ(Walk(reverse), Names<TComponentReverseEnumeratorRecursive<TNode*>>(&Root));
-}
+  EXPECT_EQ(Names(forward), Names(Make<TForwardRecursive>(&Root)));
+  EXPECT_EQ(Names(reverse), Names(Make<TReverseRecursive>(&Root)));
 
-TEST_F(ComponentEnumeratorTest, ChildrenThatGoDuringAWalkEndItEarly) {
-  const TRef<IEnumerator<TNode*>> walk = New<TComponentEnumerator<TNode*>>(&Root, GetCount, GetItem);
+  const TRef<IEnumerator<TNode*>> walk = Make<TForward>(&Root);
   ASSERT_TRUE(walk->MoveNext());
   Root.Children.resize(1);
   EXPECT_FALSE(walk->MoveNext());
   EXPECT_FALSE(walk->MoveNext());
 }
 
-TEST_F(ComponentEnumeratorTest, FilterKeepsOnlyMatches) {
-  const auto walk = New<TFilterEnumerator<TNode*>>(New<TComponentEnumeratorRecursive<TNode*>>(&Root, GetCount, GetItem),
-                                                   [](TNode* const& ANode) { return ANode->Children.empty(); });
-  EXPECT_EQ(Walk(walk), (TNames{"A1a", "A2", "B", "C1"}));
-  walk->Reset();
-  EXPECT_EQ(Walk(walk), (TNames{"A1a", "A2", "B", "C1"}));
-}
-
 TEST_F(ComponentEnumeratorTest, NilArgumentsAreAssertionFailures) {
-  const TRef<IEnumerator<TNode*>> walk = New<TComponentEnumerator<TNode*>>(&Root, GetCount, GetItem);
-  EXPECT_THROW(New<TFilterEnumerator<TNode*>>(walk, nullptr), EAssertionFailed);
-  EXPECT_THROW(New<TFilterEnumerator<TNode*>>(nullptr, [](TNode* const&) { return true; }), EAssertionFailed);
-  EXPECT_THROW(New<TComponentEnumeratorRecursive<TNode*>>(&Root, nullptr, GetItem), EAssertionFailed);
-  EXPECT_THROW(New<TComponentReverseEnumerator<TNode*>>(&Root, GetCount, nullptr), EAssertionFailed);
+  ExpectAssertions({[&] { New<TFilterEnumerator<TNode*>>(Make<TForward>(&Root), nullptr); },
+                    [] { New<TFilterEnumerator<TNode*>>(nullptr, [](TNode* const&) { return true; }); },
+                    [&] { New<TForwardRecursive>(&Root, nullptr, GetItem); },
+                    [&] { New<TReverse>(&Root, GetCount, nullptr); }});
 }
 
 // ---- The query over child components ----
@@ -117,27 +107,22 @@ TRef<IContainerQuery<TNode*, TNodeList, TNode*>> QueryChildren(TNode* ARoot, boo
 }
 
 const TConstFunc<TNode*, Boolean> NotB = [](TNode* const& A) { return A->Name[0] != 'B'; };
+const TConstFunc<TNode*, Boolean> Every = [](TNode* const&) { return true; };
 
-TEST_F(ComponentEnumeratorTest, QueryPicksTheWalkByItsFlags) {
-  struct TCase {
-    bool Recursive, Reverse;
-    TNames Expected;
-  } cases[] = {{false, false, {"A", "C"}},
-               {false, true, {"C", "A"}},
-               {true, false, {"A", "A1", "A1a", "A2", "C", "C1"}},
-               {true, true, {"C1", "C", "A2", "A1a", "A1", "A"}}};
-  for (const auto& c : cases)
-    EXPECT_EQ(*QueryChildren(&Root, c.Recursive, c.Reverse, NotB)->Skip(0), c.Expected) << c.Recursive << c.Reverse;
-}
+TEST_F(ComponentEnumeratorTest, QueryPicksTheWalkByItsFlagsAndRunsOverTheTreeAsItStands) {
+  const std::tuple<bool, bool, TNames> cases[] = {{false, false, {"A", "C"}},
+                                                  {false, true, {"C", "A"}},
+                                                  {true, false, {"A", "A1", "A1a", "A2", "C", "C1"}},
+                                                  {true, true, {"C1", "C", "A2", "A1a", "A1", "A"}}};
+  for (const auto& [recursive, reverse, expected] : cases)
+    EXPECT_EQ(*QueryChildren(&Root, recursive, reverse, NotB)->Skip(0), expected) << recursive << reverse;
 
-TEST_F(ComponentEnumeratorTest, QueryRunsOverTheTreeAsItStandsAndHandsBackTheRoot) {
   const auto query = QueryChildren(&Root, true, false, NotB);
-  EXPECT_EQ(query->Count([](TNode* const&) { return true; }), 6);
+  EXPECT_EQ(query->Count(Every), 6);
   Add(&Root, "D");
-  EXPECT_EQ(query->Count([](TNode* const&) { return true; }), 7);
-
+  EXPECT_EQ(query->Count(Every), 7);
   TNodeList handed;
-  EXPECT_EQ(query->Do([&](TNodeList AList) { handed = AList; }), &Root);
+  EXPECT_EQ(query->Do([&](TNodeList AList) { handed = AList; }), &Root); // hands back the root
   ASSERT_TRUE(handed);
   EXPECT_EQ(handed->back(), "D");
   EXPECT_EQ(query->ForEach([](TNode* const&) {}), &Root);
@@ -145,4 +130,4 @@ TEST_F(ComponentEnumeratorTest, QueryRunsOverTheTreeAsItStandsAndHandsBackTheRoo
 }
 
 } // namespace
-} // namespace Tarvo
+} // namespace Tarvo::Testing

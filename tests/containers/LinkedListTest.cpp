@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "tests/containers/ListTestSupport.h"
 
 namespace Tarvo::Testing {
@@ -14,7 +12,7 @@ IntList Make(const V& AItems) {
   return list;
 }
 
-// Walks the list and runs AStep with each element it yields; answers the elements seen.
+// Walks the list, running AStep with each element it yields; answers the elements seen.
 V WalkWith(const IntList& AList, const std::function<void(int)>& AStep) {
   V seen;
   for (const TRef<IEnumerator<int>> walk = AList->GetEnumerator(); walk->MoveNext();) {
@@ -24,31 +22,31 @@ V WalkWith(const IntList& AList, const std::function<void(int)>& AStep) {
   return seen;
 }
 
-TEST(LinkedListWalkTest, RemovingASuccessorPassesOverItsPredecessor) {
-  IntList list = Make({1, 2, 3, 4});
-  // 3 is flagged while the walk stands on 1: 2 (whose successor is flagged) is passed over,
-  // while 3 itself is still yielded.
-  EXPECT_EQ(WalkWith(list, [&](int A) { if (A == 1) list->RemoveOne(3); }), (V{1, 3, 4}));
-  EXPECT_EQ(Contents(list), (V{1, 2, 4}));
-  EXPECT_EQ(list->GetCount(), 4); // the settled count stays high
-}
-
-TEST(LinkedListWalkTest, RemovingTheLastNodeEndsTheWalkAndMendsTheEnd) {
-  IntList list = Make({1, 2, 3});
-  EXPECT_EQ(WalkWith(list, [&](int A) { if (A == 1) list->RemoveOne(3); }), (V{1}));
-  EXPECT_EQ(list->Last(), 2);
-  list->Add(9);
-  EXPECT_EQ(Contents(list), (V{1, 2, 9}));
-  EXPECT_EQ(list->GetCount(), 4);
-}
-
-TEST(LinkedListWalkTest, RemovingTheCurrentNodeDoesNotDisturbTheWalk) {
-  IntList list = Make({1, 2, 3});
-  EXPECT_EQ(WalkWith(list, [&](int A) { list->RemoveOne(A); }), (V{1, 2, 3}));
-  EXPECT_EQ(Contents(list), V{});
-  EXPECT_EQ(list->GetCount(), 3);
-  list->Add(5);
-  EXPECT_EQ(Contents(list), (V{5}));
+// Removal during a walk only flags a node, which the walk's end unlinks; the count stays high.
+// Adding 9 afterwards shows that the end of the list was mended.
+TEST(LinkedListWalkTest, ChangesDuringAWalk) {
+  const struct {
+    const char* Name;
+    V Items;
+    std::function<void(const IntList&, int)> Step;
+    V Seen, After;
+    Integer Count;
+  } rows[] = {
+      // Removing 3 while on 1 passes over 2, whose successor is flagged, while 3 is still yielded.
+      {"successor", {1, 2, 3, 4}, [](const IntList& L, int A) { if (A == 1) L->RemoveOne(3); }, {1, 3, 4}, {1, 2, 4, 9}, 5},
+      {"last", {1, 2, 3}, [](const IntList& L, int A) { if (A == 1) L->RemoveOne(3); }, {1}, {1, 2, 9}, 4},
+      {"current", {1, 2, 3}, [](const IntList& L, int A) { L->RemoveOne(A); }, {1, 2, 3}, {9}, 4},
+      {"pop", {1}, [](const IntList& L, int) { L->PopFirst(); }, {1}, {9}, 2},
+      {"added", {1}, [](const IntList& L, int A) { if (A < 3) L->Add(A + 1); }, {1, 2, 3}, {1, 2, 3, 9}, 4},
+  };
+  for (const auto& r : rows) {
+    SCOPED_TRACE(r.Name);
+    const IntList list = Make(r.Items);
+    EXPECT_EQ(WalkWith(list, [&](int A) { r.Step(list, A); }), r.Seen);
+    list->Add(9);
+    EXPECT_EQ(Contents(list), r.After);
+    EXPECT_EQ(list->GetCount(), r.Count);
+  }
 }
 
 TEST(LinkedListWalkTest, PopFirstDuringAWalkFindsTheSameNode) {
@@ -59,15 +57,12 @@ TEST(LinkedListWalkTest, PopFirstDuringAWalkFindsTheSameNode) {
     const TRef<IEnumerator<int>> walk = list->GetEnumerator();
     EXPECT_EQ(list->PopFirst(), 1);
     EXPECT_EQ(list->PopFirst(), 1);
-    EXPECT_EQ(list->GetCount(), 2);
     EXPECT_EQ(counter.Count, 2);
   }
-  // The release step unlinks the flagged node and notifies once.
-  EXPECT_EQ(counter.Count, 3);
+  EXPECT_EQ(counter.Count, 3); // the release step unlinks the flagged node and notifies once
   EXPECT_EQ(Contents(list), (V{2}));
+  EXPECT_EQ(counter.Count, 3); // a later walk finds nothing flagged
   EXPECT_EQ(list->GetCount(), 2);
-  // A later walk finds nothing flagged and does not notify.
-  EXPECT_EQ(counter.Count, 3);
 }
 
 TEST(LinkedListWalkTest, NodesAreFreedOnlyWhenTheLastEnumeratorGoes) {
@@ -77,18 +72,12 @@ TEST(LinkedListWalkTest, NodesAreFreedOnlyWhenTheLastEnumeratorGoes) {
     const TRef<IEnumerator<int>> inner = list->GetEnumerator();
     list->RemoveOne(2);
   }
-  // Still linked for the outer walk, where it hides 1, its predecessor.
-  EXPECT_EQ(Walk(outer), (V{2, 3}));
+  EXPECT_EQ(Walk(outer), (V{2, 3})); // still linked for the outer walk, where it hides 1
   outer = nullptr;
   EXPECT_EQ(Contents(list), (V{1, 3}));
 }
 
-TEST(LinkedListWalkTest, NodesAddedDuringAWalkAreReached) {
-  IntList list = Make({1});
-  EXPECT_EQ(WalkWith(list, [&](int A) { if (A < 3) list->Add(A + 1); }), (V{1, 2, 3}));
-}
-
-TEST(LinkedListWalkTest, ClearingAListThatIsBeingWalkedIsRefused) {
+TEST(LinkedListWalkTest, ClearingAListThatIsBeingWalkedIsRefusedWhileItHoldsNodes) {
   IntList list = Make({1, 2});
   {
     const TRef<IEnumerator<int>> walk = list->GetEnumerator();
@@ -96,50 +85,45 @@ TEST(LinkedListWalkTest, ClearingAListThatIsBeingWalkedIsRefused) {
     EXPECT_EQ(list->GetCount(), 2);
   }
   EXPECT_EQ(Contents(list), (V{1, 2}));
-}
-
-TEST(LinkedListWalkTest, ClearSetsTheCountToZeroUnderAWalkOfNoNodes) {
-  IntList list = Make({1});
+  list = Make({1});
   WalkWith(list, [&](int) { list->PopFirst(); });
   EXPECT_EQ(list->GetCount(), 1);
-  const TRef<IEnumerator<int>> walk = list->GetEnumerator();
+  const TRef<IEnumerator<int>> walk = list->GetEnumerator(); // over no nodes: Clear is allowed
   list->Clear();
   EXPECT_EQ(list->GetCount(), 0);
 }
 
-TEST(LinkedListTest, RemovalMendsTheLinks) {
+TEST(LinkedListTest, RemovalMendsTheLinksAndNotifies) {
   IntList list = Make({1, 2, 3});
+  TCounter counter;
+  list->AddChangeHandler(counter.Handler());
   EXPECT_EQ(list->RemoveOne(3), 2);
   EXPECT_EQ(list->Last(), 2);
+  EXPECT_EQ(list->RemoveOne(5), -1);
+  EXPECT_EQ(counter.Count, 2); // absent: notifies all the same
   list->Add(4);
   EXPECT_EQ(list->RemoveOne(1), 0);
   list->AddFront(0);
   EXPECT_EQ(Contents(list), (V{0, 2, 4}));
   EXPECT_EQ(list->GetCount(), 3);
+  int item = -1;
+  EXPECT_FALSE(list->FindAndRemoveOne([](const int& A) { return A > 5; }, item));
+  EXPECT_EQ(item, -1);
+  EXPECT_TRUE(list->FindAndRemoveOne(0));
+  EXPECT_EQ(list->FindOrAdd([](const int& A) { return A == 4; }, 7), 4);
   list->RemoveAll([](const int&) { return true; });
   EXPECT_EQ(list->GetCount(), 0);
   list->Add(7);
   EXPECT_EQ(Contents(list), (V{7}));
-}
 
-TEST(LinkedListTest, RemoveOneNotifiesOnceWhetherOrNotFound) {
-  IntList list = Make({1, 2});
-  TCounter counter;
-  list->AddChangeHandler(counter.Handler());
-  EXPECT_EQ(list->RemoveOne(5), -1);
-  EXPECT_EQ(counter.Count, 1);
-  EXPECT_EQ(list->RemoveOne(2), 1);
-  EXPECT_EQ(counter.Count, 2);
-}
-
-TEST(LinkedListTest, RemoveAllOfAnotherListTakesTheLastOccurrence) {
-  IntList list = Make({1, 2, 1, 3});
+  // Per element of the other list, the last equal element goes.
+  list = Make({1, 2, 1, 3});
   list->RemoveAll(Make({1, 3}));
   EXPECT_EQ(Contents(list), (V{1, 2}));
   EXPECT_EQ(list->Last(), 2);
 }
 
-TEST(LinkedListTest, PopFirstAndLastForms) {
+TEST(LinkedListTest, EndsOfAFullAndAnEmptyList) {
   IntList list = Make({1, 2});
   int item = -1;
   EXPECT_TRUE(list->Last(item));
@@ -159,36 +143,19 @@ TEST(LinkedListTest, PopFirstAndLastForms) {
   EXPECT_EQ(item, 3);
 }
 
-TEST(LinkedListTest, FindOrAddAndFindAndRemoveOne) {
+TEST(LinkedListTest, CopiesAndQueriesAreLinkedLists) {
   IntList list = Make({1, 2});
-  EXPECT_EQ(list->FindOrAdd([](const int& A) { return A == 2; }, [] { return 99; }), 2);
-  EXPECT_EQ(list->FindOrAdd([](const int& A) { return A == 3; }, 3), 3);
-  int item = -1;
-  EXPECT_FALSE(list->FindAndRemoveOne([](const int& A) { return A > 5; }, item));
-  EXPECT_EQ(item, -1);
-  EXPECT_TRUE(list->FindAndRemoveOne(1));
-  EXPECT_EQ(Contents(list), (V{2, 3}));
-}
-
-TEST(LinkedListTest, SelfAppendAndSelfAssignLeaveTheListUnchanged) {
-  IntList list = Make({1, 2});
-  list->Append(list)->Assign(list);
-  EXPECT_EQ(Contents(list), (V{1, 2}));
-  list->Assign(TArrayList<int>::CreateArray({5, 6}));
-  EXPECT_EQ(Contents(list), (V{5, 6}));
-  EXPECT_EQ(Contents(TLinkedList<int>::CreateCopy(list)), (V{5, 6}));
-}
-
-// So is reading the current element before the first step.
-TEST(LinkedListTest, NilArgumentsAreAssertionFailures) {
-  IntList list = Make({1});
-  EXPECT_THROW(list->GetEnumerator()->GenericGetCurrent(), EAssertionFailed);
-  EXPECT_THROW(list->Append(TRef<IEnumerable<int>>()), EAssertionFailed);
-  EXPECT_THROW(list->Assign(nullptr), EAssertionFailed);
-  EXPECT_THROW(list->IfRemoveOne(nullptr), EAssertionFailed);
-  EXPECT_THROW(list->ForLast(nullptr), EAssertionFailed);
-  EXPECT_THROW(TLinkedList<int>::CreateEnumerator(nullptr), EAssertionFailed);
-  EXPECT_EQ(Contents(list), (V{1}));
+  list->Assign(TArrayList<int>::CreateArray({5, 6, 7}));
+  EXPECT_EQ(Contents(list), (V{5, 6, 7}));
+  EXPECT_EQ(Contents(TLinkedList<int>::CreateCopy(list)), (V{5, 6, 7}));
+  const TRef<ILinkedList<int>> odd = list->Query()->Filter([](const int& A) { return A % 2 == 1; });
+  EXPECT_EQ(Contents(odd), (V{5, 7}));
+  EXPECT_EQ(list->Query()->Take(0)->GetCount(), 0);
+  // Reading the current element before the first step fails like a nil argument.
+  ExpectAssertions({[&] { list->GetEnumerator()->GenericGetCurrent(); }, [&] { list->Append(TRef<IEnumerable<int>>()); },
+                    [&] { list->IfRemoveOne(nullptr); }, [&] { list->ForLast(nullptr); },
+                    [] { TLinkedList<int>::CreateEnumerator(nullptr); }});
+  EXPECT_EQ(Contents(list), (V{5, 6, 7}));
 }
 
 } // namespace

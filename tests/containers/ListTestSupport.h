@@ -1,7 +1,10 @@
 #pragma once
-// Shared pieces of the list tests: an element that counts the handlers installed on it, a
-// notification counter, and a walk that collects what an enumerator yields.
+// Shared pieces of the container tests: an element that counts the handlers installed on it, a
+// notification counter, walks that collect what an enumerator yields, and argument checks.
 
+#include <gtest/gtest.h>
+
+#include <functional>
 #include <vector>
 
 #include "containers/List.h"
@@ -45,5 +48,11 @@ template <class T> std::vector<T> Walk(const TRef<IEnumerator<T>>& AEnumerator) 
 }
 
 template <class L> auto Contents(const TRef<L>& AList) { return Walk(AList->GetEnumerator()); }
+
+// Each call must fail its argument check.
+inline void ExpectAssertions(std::initializer_list<std::function<void()>> ACalls) {
+  int index = 0;
+  for (const auto& call : ACalls) EXPECT_THROW(call(), EAssertionFailed) << "call " << index++;
+}
 
 } // namespace Tarvo::Testing

@@ -1,5 +1,4 @@
-// A module built as its own shared library: a published class, an enumeration of its own and a
-// named resource.
+// A module of its own for the module tests: a published class with an enumeration, and a resource.
 #include "design/reflection/Publish.h"
 #include "rtl/Module.h"
 
@@ -11,9 +10,7 @@ TARVO_IMPLEMENT_ENUM(TTestModuleMood)
 class TTestModuleThing : public TObject {
   TARVO_CLASS(TTestModuleThing, TObject)
 public:
-  using TConstructor = TConstructorSignature<int>;
-  explicit TTestModuleThing(int AValue) : Value(AValue) {}
-  int Value;
+  int Value = 1;
   TTestModuleMood Mood = tmBusy;
 };
 
