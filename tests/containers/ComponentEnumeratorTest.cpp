@@ -54,12 +54,10 @@ using TReverseRecursive = TComponentReverseEnumeratorRecursive<TNode*>;
 TEST_F(ComponentEnumeratorTest, WalkOrders) {
   TNode leaf{"Leaf", {}};
   const std::pair<TNames, TNames> walks[] = {
-      {Names(Make<TForward>(&Root)), {"A", "B", "C"}},
-      {Names(Make<TReverse>(&Root)), {"C", "B", "A"}},
+      {Names(Make<TForward>(&Root)), {"A", "B", "C"}}, {Names(Make<TReverse>(&Root)), {"C", "B", "A"}},
       {Names(Make<TForwardRecursive>(&Root)), {"A", "A1", "A1a", "A2", "B", "C", "C1"}},
       {Names(Make<TReverseRecursive>(&Root)), {"C1", "C", "B", "A2", "A1a", "A1", "A"}},
-      {Names(Make<TForward>(&leaf)), {}},
-      {Names(Make<TReverse>(&leaf)), {}},
+      {Names(Make<TForward>(&leaf)), {}}, {Names(Make<TReverse>(&leaf)), {}},
       {Names(Make<TForwardRecursive>(&leaf)), {}},
       {Names(Make<TReverseRecursive>(&leaf)), {}}};
   for (std::size_t i = 0; i < std::size(walks); ++i) EXPECT_EQ(walks[i].first, walks[i].second) << "walk " << i;

@@ -49,22 +49,14 @@ TEST(ValueTest, EmptyValue) {
 
 TEST(ValueTest, ToStringByType) {
   const std::pair<TValue, const char*> rows[] = {
-      {TValue(-12), "-12"},
-      {TValue::From(Cardinal(4000000000u)), "4000000000"},
-      {TValue::From(UINT64_MAX), "18446744073709551615"},
-      {TValue(true), "True"},
-      {TValue::From(tfBanana), "tfBanana"},
-      {TValue::From(TTestFruits{tfApple, tfCherry}), "[tfApple,tfCherry]"},
-      {TValue::From(TTestFruits{}), "[]"},
-      {TValue::From('x'), "x"},
-      {TValue::From(u'\u00e9'), "\xc3\xa9"},
-      {TValue("abc"), "abc"},
-      {TValue::From(1.0f / 3.0f), "0.3333333"},
-      {TValue(2.5), "2.5"},
+      {TValue(-12), "-12"}, {TValue::From(Cardinal(4000000000u)), "4000000000"},
+      {TValue::From(UINT64_MAX), "18446744073709551615"}, {TValue(true), "True"}, {TValue::From(tfBanana), "tfBanana"},
+      {TValue::From(TTestFruits{tfApple, tfCherry}), "[tfApple,tfCherry]"}, {TValue::From(TTestFruits{}), "[]"},
+      {TValue::From('x'), "x"}, {TValue::From(u'\u00e9'), "\xc3\xa9"}, {TValue("abc"), "abc"},
+      {TValue::From(1.0f / 3.0f), "0.3333333"}, {TValue(2.5), "2.5"},
       {TValue::From(TDateTime(45351.5), &TypeInfo_TDateTime), "2024-02-29 12:00:00"},
       {TValue::From(TDateTime(45351.0), &TypeInfo_TDate), "2024-02-29"},
-      {TValue::From(Currency::FromScaled(15000)), "1.5"},
-      {TValue(static_cast<TObject*>(nullptr)), "nil"},
+      {TValue::From(Currency::FromScaled(15000)), "1.5"}, {TValue(static_cast<TObject*>(nullptr)), "nil"},
       {TValue::From(Variant(String("42"))), "42"},
   };
   for (const auto& [value, text] : rows) EXPECT_EQ(value.ToString(), text) << value.GetTypeInfo()->Name;
@@ -80,8 +72,7 @@ TEST(ValueTest, FromStringKeepsTheReceiversType) {
   } rows[] = {{TValue(7), "abc", false, "7"},
               {TValue(7), "$10", true, "16"},
               {TValue::From(Byte(1)), "300", false, "1"}, // does not fit the type
-              {TValue::From(Byte(1)), "-1", false, "1"},
-              {TValue::From(Byte(1)), "255", true, "255"},
+              {TValue::From(Byte(1)), "-1", false, "1"}, {TValue::From(Byte(1)), "255", true, "255"},
               {TValue::From(tfApple), "TFCHERRY", true, "tfCherry"},
               {TValue::From(tfApple), "tfDate", false, "tfApple"},
               {TValue::From(TTestFruits{}), "[tfBanana, tfCherry]", true, "[tfBanana,tfCherry]"},
@@ -122,15 +113,12 @@ TEST(ValueTest, ReadingAndCasting) {
     PTypeInfo Target;
     const char* Result; // nil when the cast fails
   } casts[] = {{TValue(255), &TypeInfo_Byte, "255"},
-               {TValue(256), &TypeInfo_Byte, nullptr},
-               {TValue(-5), &TypeInfo_Cardinal, nullptr},
+               {TValue(256), &TypeInfo_Byte, nullptr}, {TValue(-5), &TypeInfo_Cardinal, nullptr},
                {TValue(Int64(4000000000)), &TypeInfo_Cardinal, "4000000000"},
-               {TValue::From(UInt64(1) << 63), &TypeInfo_Int64, nullptr},
-               {TValue(3), &TypeInfo_Double, "3"},
+               {TValue::From(UInt64(1) << 63), &TypeInfo_Int64, nullptr}, {TValue(3), &TypeInfo_Double, "3"},
                {TValue(2.5), &TypeInfo_Integer, nullptr},
                {TValue(1), TypeInfo<TTestFruit>(), nullptr}, // no integer into an enumeration
-               {TValue("x"), &TypeInfo_AnsiString, "x"},
-               {TValue::From(Variant(String("42"))), &TypeInfo_Byte, "42"},
+               {TValue("x"), &TypeInfo_AnsiString, "x"}, {TValue::From(Variant(String("42"))), &TypeInfo_Byte, "42"},
                {TValue::From(Variant(String("x"))), &TypeInfo_Integer, nullptr}};
   for (const auto& c : casts) {
     TValue result;
