@@ -15,87 +15,88 @@ namespace {
 
 using namespace Testing;
 
-std::vector<std::string> Captions(QWidget& AForm) {
-  std::vector<std::string> captions;
-  for (auto* label : AForm.findChildren<QLabel*>()) captions.push_back(label->text().toStdString());
-  return captions;
-}
-
-TEST(ColorInplaceFormTest, SizesCaptionsAndBars) {
+// The wheel takes the left edge, the captioned bars share the rest in rows, one per channel.
+TEST(ColorInplaceFormTest, LaysTheWheelAndBarsOut) {
   TColorInplaceForm form;
-  form.show();
-  EXPECT_EQ(form.height(), 53);
-  EXPECT_EQ(form.HBHSVWheel->geometry(), QRect(0, 0, 53, 53));
-  EXPECT_EQ(Captions(form), (std::vector<std::string>{"R", "G", "B"}));
-  for (QSlider* bar : {form.TrackBarRed, form.TrackBarGreen, form.TrackBarBlue}) {
-    EXPECT_EQ(bar->minimum(), 0);
-    EXPECT_EQ(bar->maximum(), 255);
-    EXPECT_EQ(bar->tickPosition(), QSlider::NoTicks);
-    EXPECT_EQ(bar->style()->pixelMetric(QStyle::PM_SliderLength, nullptr, bar), 15);
-    EXPECT_GE(bar->x(), 53);
-  }
-  EXPECT_LE(form.TrackBarRed->geometry().bottom(), form.TrackBarGreen->y());
-
   TAlphaColorInplaceForm alpha;
-  alpha.show();
+  for (TBasicColorInplaceForm* each : std::initializer_list<TBasicColorInplaceForm*>{&form, &alpha}) each->show();
+  EXPECT_EQ(form.height(), 53);
   EXPECT_EQ(alpha.height(), 72);
-  EXPECT_EQ(Captions(alpha), (std::vector<std::string>{"R", "G", "B", "A"}));
-  EXPECT_EQ(alpha.TrackBarAlpha->maximum(), 255);
-  EXPECT_LE(alpha.TrackBarBlue->geometry().bottom(), alpha.TrackBarAlpha->y());
+  EXPECT_EQ(form.HBHSVWheel->geometry(), QRect(0, 0, 53, 53));
+  std::string captions;
+  for (auto* label : alpha.findChildren<QLabel*>()) captions += label->text().toStdString();
+  EXPECT_EQ(captions, "RGBA");
+  const std::vector<QSlider*> bars = {alpha.TrackBarRed, alpha.TrackBarGreen, alpha.TrackBarBlue, alpha.TrackBarAlpha};
+  for (std::size_t i = 0; i < bars.size(); ++i) {
+    EXPECT_GE(bars[i]->x(), 53);
+    EXPECT_EQ(bars[i]->tickPosition(), QSlider::NoTicks);
+    EXPECT_EQ(bars[i]->style()->pixelMetric(QStyle::PM_SliderLength, nullptr, bars[i]), 15);
+    if (i > 0) {
+      EXPECT_LE(bars[i - 1]->geometry().bottom(), bars[i]->y());
+    }
+  }
 }
 
-TEST(ColorInplaceFormTest, AColourFromTheEditorFiresNothing) {
+// A colour set from outside fires nothing; one the user sets on a bar fires once and turns the
+// wheel. Red is the low byte of a TColor, the third of an alpha colour.
+TEST(ColorInplaceFormTest, OnlyTheUsersColourFires) {
   TColorInplaceForm form;
   int changes = 0;
-  form.OnColorChange = [&](QWidget* ASender) { EXPECT_EQ(ASender, &form), ++changes; };
-  form.SetColor(0x336699);
-  EXPECT_EQ(changes, 0);
-  EXPECT_EQ(form.GetColor(), 0x336699);
-  EXPECT_EQ(form.TrackBarRed->value(), 0x99);
+  form.OnColorChange = [&](QWidget* ASender) {
+    EXPECT_EQ(ASender, &form);
+    ++changes;
+  };
+  form.SetColor(0x3366FF);
+  EXPECT_EQ(form.TrackBarRed->value(), 0xFF);
   EXPECT_EQ(form.TrackBarBlue->value(), 0x33);
-  form.SetColor(clHighlight);
-  EXPECT_EQ(form.GetColor(), ColorToRGB(clHighlight));
-  EXPECT_EQ(changes, 0);
-}
-
-TEST(ColorInplaceFormTest, ABarMovedByTheUserFiresAndTurnsTheWheel) {
-  TColorInplaceForm form;
   form.SetColor(0x0000FF);
-  int changes = 0;
-  form.OnColorChange = [&](QWidget*) { ++changes; };
+  EXPECT_EQ(changes, 0);
   form.TrackBarGreen->setValue(255); // red and green: yellow
   EXPECT_EQ(changes, 1);
   EXPECT_EQ(form.GetColor(), 0x00FFFF);
   EXPECT_FLOAT_EQ(form.HBHSVWheel->GetHue(), 1.0f / 6);
+  form.SetColor(clHighlight); // taken resolved
+  EXPECT_EQ(form.GetColor(), ColorToRGB(clHighlight));
+
+  TAlphaColorInplaceForm alpha;
+  int alphaChanges = 0, enters = 0;
+  alpha.OnColorChange = [&](QWidget*) { ++alphaChanges; };
+  alpha.OnEditorEnter = [&](QWidget*) { ++enters; };
+  alpha.SetColor(0x80FF4010u);
+  EXPECT_EQ(alphaChanges, 0);
+  EXPECT_EQ(alpha.TrackBarAlpha->value(), 0x80);
+  EXPECT_EQ(alpha.TrackBarRed->value(), 0xFF);
+  EXPECT_EQ(alpha.GetColor(), 0x80FF4010u);
+  alpha.TrackBarAlpha->setValue(0x20);
+  EXPECT_EQ(alphaChanges, 1);
+  EXPECT_EQ(alpha.GetColor(), 0x20FF4010u);
+  SendMouse(alpha.TrackBarAlpha, QEvent::MouseButtonPress, {1, 1});
+  EXPECT_EQ(enters, 1);
 }
 
 TEST(ColorInplaceFormTest, TheWheelTakesTheHueOfTheColour) {
-  const struct {
-    TColor Color;
-    Single Sixths;
-  } cases[] = {
+  const std::pair<TColor, Single> cases[] = {
       {0x00FFFF, 1}, {0x00FF00, 2}, {0xFFFF00, 3}, {0xFF0000, 4}, {0xFF00FF, 5},
-      {0x0080FF, 128.0f / 255}, // orange
+      {0x0080FF, 128.0f / 255},     // orange
       {0x8000FF, 6 - 128.0f / 255}, // a red leaning to blue wraps round
   };
-  for (const auto& c : cases) {
+  for (const auto& [color, sixths] : cases) {
     TColorInplaceForm form;
-    form.SetColor(c.Color);
-    EXPECT_NEAR(form.HBHSVWheel->GetHue(), c.Sixths / 6, 1e-6) << std::hex << c.Color;
+    form.SetColor(color);
+    EXPECT_NEAR(form.HBHSVWheel->GetHue(), sixths / 6, 1e-6) << std::hex << color;
   }
 }
 
+// The value follows the least channel; black and grey have no hue and leave the wheel's.
 TEST(ColorInplaceFormTest, BlackAndGreyKeepTheWheelsHue) {
   TColorInplaceForm form;
   form.SetColor(0x00FF00);
   ASSERT_FLOAT_EQ(form.HBHSVWheel->GetHue(), 2.0f / 6);
   const Single saturation = form.HBHSVWheel->GetSaturation();
-
   form.SetColor(0x808080);
   EXPECT_FLOAT_EQ(form.HBHSVWheel->GetHue(), 2.0f / 6);
   EXPECT_FLOAT_EQ(form.HBHSVWheel->GetSaturation(), saturation);
-  EXPECT_FLOAT_EQ(form.HBHSVWheel->GetValue(), 128.0f / 255); // the least channel
-
+  EXPECT_FLOAT_EQ(form.HBHSVWheel->GetValue(), 128.0f / 255);
   form.SetColor(0x000000);
   EXPECT_FLOAT_EQ(form.HBHSVWheel->GetHue(), 2.0f / 6);
   EXPECT_EQ(form.HBHSVWheel->GetSaturation(), 360);
@@ -111,9 +112,7 @@ TEST(ColorInplaceFormTest, DraggingTheWheelSetsTheBarsAndKeepsThePickedHue) {
   form.OnEditorEnter = [&](QWidget*) { events.push_back("enter"); };
   form.OnEditorLeave = [&](QWidget*) { events.push_back("leave"); };
   Click(form.HBHSVWheel, {26.5, 1.5}); // a quarter turn at full saturation, value 1
-  EXPECT_EQ(form.TrackBarRed->value(), 128);
-  EXPECT_EQ(form.TrackBarGreen->value(), 255);
-  EXPECT_EQ(form.TrackBarBlue->value(), 0);
+  EXPECT_EQ(form.GetColor(), 0x00FF80);
   // The bars' colour would give a slightly other hue; the wheel keeps the one picked.
   EXPECT_FLOAT_EQ(form.HBHSVWheel->GetHue(), 0.25f);
   // One change for each bar that moved; the wheel picks before the form hears of the press.
@@ -128,26 +127,6 @@ TEST(ColorInplaceFormTest, BarsFollowTheFormsColour) {
     EXPECT_EQ(GetControlColor(bar), 0x102030);
     EXPECT_EQ(bar->palette().color(QPalette::Window), QColor(0x30, 0x20, 0x10));
   }
-}
-
-TEST(AlphaColorInplaceFormTest, TheAlphaBarTakesPartInTheColour) {
-  TAlphaColorInplaceForm form;
-  int changes = 0, enters = 0;
-  form.OnColorChange = [&](QWidget*) { ++changes; };
-  form.OnEditorEnter = [&](QWidget*) { ++enters; };
-  form.SetColor(0x80FF4010u);
-  EXPECT_EQ(changes, 0);
-  EXPECT_EQ(form.TrackBarAlpha->value(), 0x80);
-  EXPECT_EQ(form.TrackBarRed->value(), 0xFF);
-  EXPECT_EQ(form.TrackBarGreen->value(), 0x40);
-  EXPECT_EQ(form.TrackBarBlue->value(), 0x10);
-  EXPECT_EQ(form.GetColor(), 0x80FF4010u);
-
-  form.TrackBarAlpha->setValue(0x20);
-  EXPECT_EQ(changes, 1);
-  EXPECT_EQ(form.GetColor(), 0x20FF4010u);
-  SendMouse(form.TrackBarAlpha, QEvent::MouseButtonPress, {1, 1});
-  EXPECT_EQ(enters, 1);
 }
 
 } // namespace

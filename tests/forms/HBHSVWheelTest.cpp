@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "FormTestSupport.h"
 #include "forms/HBHSVWheel.h"
 
@@ -8,16 +11,11 @@ namespace {
 
 using namespace Testing;
 
-TEST(HBHSVToHSLTest, Table) {
+// The hue passes through; black is black whatever the saturation, and beyond full counts as full.
+TEST(HBHSVWheelTest, HSVToHSLTable) {
   const struct {
     Single S, V, ExpectedS, ExpectedL;
-  } cases[] = {
-      {1, 1, 1, 0.5f},     // a pure hue
-      {0, 1, 0, 1},        // white
-      {0.7f, 0, 0, 0},     // black, whatever the saturation
-      {0.5f, 0.8f, 0.5f, 0.6f},
-      {360, 1, 1, 0.5f},   // beyond full saturation counts as full
-  };
+  } cases[] = {{1, 1, 1, 0.5f}, {0, 1, 0, 1}, {0.7f, 0, 0, 0}, {0.5f, 0.8f, 0.5f, 0.6f}, {360, 1, 1, 0.5f}};
   for (const auto& c : cases) {
     Single h, s, l;
     HBHSVToHSL(123, c.S, c.V, h, s, l);
@@ -27,22 +25,18 @@ TEST(HBHSVToHSLTest, Table) {
   }
 }
 
-TEST(HBHSLToRGBTest, Table) {
+// Hues of any turn, greys and shades.
+TEST(HBHSVWheelTest, HSLToRGBTable) {
   const struct {
     Single H, S, L;
-    Byte R, G, B;
-  } cases[] = {
-      {0, 1, 0.5f, 255, 0, 0},     {60, 1, 0.5f, 255, 255, 0},  {120, 1, 0.5f, 0, 255, 0},
-      {180, 1, 0.5f, 0, 255, 255}, {240, 1, 0.5f, 0, 0, 255},   {300, 1, 0.5f, 255, 0, 255},
-      {90, 1, 0.5f, 128, 255, 0},  {0, 0, 0.5f, 128, 128, 128}, {200, 1, 1, 255, 255, 255},
-      {-120, 1, 0.5f, 0, 0, 255},  {480, 1, 0.5f, 0, 255, 0},   {0, 1, 0.25f, 128, 0, 0},
-  };
+    int RGB;
+  } cases[] = {{0, 1, 0.5f, 0xFF0000},   {60, 1, 0.5f, 0xFFFF00},  {120, 1, 0.5f, 0x00FF00}, {180, 1, 0.5f, 0x00FFFF},
+               {240, 1, 0.5f, 0x0000FF}, {300, 1, 0.5f, 0xFF00FF}, {90, 1, 0.5f, 0x80FF00},  {0, 0, 0.5f, 0x808080},
+               {200, 1, 1, 0xFFFFFF},    {-120, 1, 0.5f, 0x0000FF}, {480, 1, 0.5f, 0x00FF00}, {0, 1, 0.25f, 0x800000}};
   for (const auto& c : cases) {
     Byte r, g, b;
     HBHSLToRGB(c.H, c.S, c.L, r, g, b);
-    EXPECT_EQ(r, c.R) << c.H << " " << c.S << " " << c.L;
-    EXPECT_EQ(g, c.G) << c.H << " " << c.S << " " << c.L;
-    EXPECT_EQ(b, c.B) << c.H << " " << c.S << " " << c.L;
+    EXPECT_EQ(r << 16 | g << 8 | b, c.RGB) << c.H << " " << c.S << " " << c.L;
   }
 }
 
@@ -54,20 +48,20 @@ TEST(HBHSVWheelTest, PicksHueByAngleAndSaturationByDistance) {
   wheel.OnChange = [&] { ++changes; };
   wheel.OnMouseDown = [&] { mouse.push_back("down " + std::to_string(wheel.GetHue())); };
   wheel.OnMouseUp = [&] { mouse.push_back("up"); };
-
-  Click(&wheel, {26.5, 1.5}); // straight up: a quarter turn
-  EXPECT_FLOAT_EQ(wheel.GetHue(), 0.25f);
-  EXPECT_FLOAT_EQ(wheel.GetSaturation(), 1);
-  EXPECT_EQ(changes, 1); // hue and saturation together
+  // Straight up, left halfway out, and below beyond the rim.
+  const struct {
+    QPointF At;
+    Single Hue, Saturation;
+  } picks[] = {{{26.5, 1.5}, 0.25f, 1}, {{14, 26.5}, 0.5f, 0.5f}, {{26.5, 80}, 0.75f, 1}};
+  for (const auto& pick : picks) {
+    Click(&wheel, pick.At);
+    EXPECT_FLOAT_EQ(wheel.GetHue(), pick.Hue);
+    EXPECT_FLOAT_EQ(wheel.GetSaturation(), pick.Saturation);
+  }
+  EXPECT_EQ(changes, 3); // hue and saturation together
   // The wheel picks before it reports the press.
-  EXPECT_EQ(mouse, (std::vector<std::string>{"down " + std::to_string(0.25f), "up"}));
-
-  Click(&wheel, {14, 26.5}); // left, halfway out
-  EXPECT_FLOAT_EQ(wheel.GetHue(), 0.5f);
-  EXPECT_FLOAT_EQ(wheel.GetSaturation(), 0.5f);
-  Click(&wheel, {26.5, 80}); // below, beyond the rim
-  EXPECT_FLOAT_EQ(wheel.GetHue(), 0.75f);
-  EXPECT_FLOAT_EQ(wheel.GetSaturation(), 1);
+  const auto down = [](Single AHue) { return "down " + std::to_string(AHue); };
+  EXPECT_EQ(mouse, (std::vector<std::string>{down(0.25f), "up", down(0.5f), "up", down(0.75f), "up"}));
 }
 
 TEST(HBHSVWheelTest, SettersReportRealChangesOnly) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <string>
 #include <vector>
@@ -15,12 +16,8 @@ using namespace Testing;
 constexpr Int64 Int64Min = std::numeric_limits<Int64>::min();
 constexpr Int64 Int64Max = std::numeric_limits<Int64>::max();
 
-TRef<IPropertyRange> Range(Int64 AMin, Int64 AMax) {
-  return New<TPropertyRange>(TValue::From<Int64>(AMin), TValue::From<Int64>(AMax));
-}
-
-TRef<IPropertyRange> RealRange(Double AMin, Double AMax) {
-  return New<TPropertyRange>(TValue::From<Double>(AMin), TValue::From<Double>(AMax));
+template <class T> TRef<IPropertyRange> Range(T AMin, T AMax) {
+  return New<TPropertyRange>(TValue::From<T>(AMin), TValue::From<T>(AMax));
 }
 
 int PositionOf(Int64 AValue, Int64 AMin, Int64 AMax) {
@@ -30,88 +27,61 @@ int PositionOf(Int64 AValue, Int64 AMin, Int64 AMax) {
   return form.TrackBar->value();
 }
 
-TEST(NumericInplaceFormTest, SizeAndBar) {
-  TNumericInplaceForm form;
-  form.show();
-  EXPECT_EQ(form.height(), 30);
-  EXPECT_EQ(form.TrackBar->geometry(), form.rect());
-}
-
 TEST(NumericInplaceFormTest, PositionTable) {
   const struct {
     Int64 Value, Min, Max;
     int Position;
   } cases[] = {
       {500, 0, 1000, 2048},
-      {333, 0, 1000, 1364},        // 1363.97
-      {0, -100, 100, 2048},        // a new form places even a value of 0
-      {1, 0, 8192, 0},             // 0.5 rounds to even
-      {3, 0, 8192, 2},             // 1.5 rounds to even
-      {0, 0, 99999, 0},
-      {250000, 0, 1000000, 1024},  // in quarters from a span of 100000 on
+      {333, 0, 1000, 1364},       // 1363.97
+      {0, -100, 100, 2048},       // a new form places even a value of 0
+      {1, 0, 8192, 0},            // 0.5 rounds to even
+      {3, 0, 8192, 2},            // 1.5 rounds to even
+      {250000, 0, 1000000, 1024}, // in quarters from a span of 100000 on
       {0, Int64Min, Int64Max, 2048},
       {Int64Min, Int64Min, Int64Max, 0},
       {Int64(1) << 31, 0, 4294967295, 2048},
-      {-5, 0, 1000, 0},            // outside the range: the bar's ends
+      {-5, 0, 1000, 0},           // outside the range: the bar's ends
       {5000, 0, 1000, 4095},
-      {1000, 0, 1000, 4095},       // the last step stops one short of the end
-      {7, 5, 5, 0},                // an empty range
+      {1000, 0, 1000, 4095},      // the last step stops one short of the end
+      {7, 5, 5, 0},               // an empty range
   };
   for (const auto& c : cases)
     EXPECT_EQ(PositionOf(c.Value, c.Min, c.Max), c.Position) << c.Value << " in " << c.Min << ".." << c.Max;
-}
-
-TEST(NumericInplaceFormTest, PositionsOfWideRangesAreMultiplesOfFour) {
-  const struct {
-    Int64 Min, Max;
-  } ranges[] = {{0, 100000}, {-3, 99997}, {-50000, 12345678}, {Int64Min, Int64Max}, {0, 4294967295}};
-  for (const auto& r : ranges) {
-    const long double span = (long double)r.Max - r.Min;
+  // Worked out in quarters, wide ranges land on multiples of four only.
+  for (auto [min, max] : {std::pair{Int64(0), Int64(100000)}, {-3, 99997}, {-50000, 12345678}, {Int64Min, Int64Max}})
     for (int i = 0; i < 200; ++i) {
-      const Int64 value = Int64((long double)r.Min + span * i / 200.0L);
-      const int position = PositionOf(value, r.Min, r.Max);
-      EXPECT_EQ(position % 4, 0) << value << " in " << r.Min << ".." << r.Max << " at " << position;
+      const Int64 value = Int64((long double)min + ((long double)max - min) * i / 200.0L);
+      EXPECT_EQ(PositionOf(value, min, max) % 4, 0) << value << " in " << min << ".." << max;
     }
-  }
 }
 
-TEST(NumericInplaceFormTest, AValueFromTheEditorFiresNothingTheUsersDoes) {
+// A value from the editor fires nothing, nor moves the bar when the form holds it already; the
+// user's does fire. The bar fills the form.
+TEST(NumericInplaceFormTest, OnlyTheUsersValueFires) {
   TNumericInplaceForm form;
-  form.SetLimits(Range(0, 1000));
+  form.show();
+  EXPECT_EQ(form.height(), 30);
+  EXPECT_EQ(form.TrackBar->geometry(), form.rect());
+  form.SetLimits(Range<Int64>(0, 1000));
   std::vector<Int64> reported;
   form.OnValueChange = [&](QWidget* ASender) { reported.push_back(static_cast<TNumericInplaceForm*>(ASender)->GetValue().AsInt64()); };
   form.SetValue(TValue::From<Int64>(250));
   EXPECT_TRUE(reported.empty());
   EXPECT_EQ(form.GetValue().AsInt64(), 250);
   form.TrackBar->setValue(3072);
-  EXPECT_EQ(reported, (std::vector<Int64>{750}));
-}
-
-TEST(NumericInplaceFormTest, TheValueHeldAlreadyMovesNothing) {
-  TNumericInplaceForm form;
-  form.SetLimits(Range(0, 1000));
-  form.SetValue(TValue::From<Int64>(500));
-  ASSERT_EQ(form.TrackBar->value(), 2048);
-  form.TrackBar->setValue(2050); // still 500, a little to the right
-  ASSERT_EQ(form.GetValue().AsInt64(), 500);
+  form.TrackBar->setValue(2050); // 500, a little to the right
+  EXPECT_EQ(reported, (std::vector<Int64>{750, 500}));
   form.SetValue(TValue::From<Int64>(500));
   EXPECT_EQ(form.TrackBar->value(), 2050);
   form.SetValue(TValue::From<Int64>(501));
   EXPECT_EQ(form.TrackBar->value(), 2052);
-}
-
-TEST(NumericInplaceFormTest, TheBarsEndsStayInsideTheFullRange) {
-  TNumericInplaceForm form;
-  form.SetLimits(Range(Int64Min, Int64Max));
-  form.TrackBar->setValue(4095);
-  EXPECT_GT(form.GetValue().AsInt64(), Int64Max / 4096 * 4093);
-  form.TrackBar->setValue(0);
-  EXPECT_EQ(form.GetValue().AsInt64(), Int64Min);
+  EXPECT_EQ(reported.size(), 2u);
 }
 
 TEST(NumericInplaceFormTest, HoldingTheBarEntersAndLeaves) {
   TNumericInplaceForm form;
-  form.SetLimits(Range(0, 10));
+  form.SetLimits(Range<Int64>(0, 10));
   std::vector<std::string> events;
   form.OnEditorEnter = [&](QWidget*) { events.push_back("enter"); };
   form.OnEditorLeave = [&](QWidget*) { events.push_back("leave"); };
@@ -123,34 +93,48 @@ TEST(NumericInplaceFormTest, HoldingTheBarEntersAndLeaves) {
   EXPECT_EQ(events, (std::vector<std::string>{"enter", "leave", "enter", "leave"}));
 }
 
+// The bar's ends read back inside the full ranges of Int64 and Double.
+TEST(RangedInplaceFormTest, TheBarsEndsStayInsideTheFullRanges) {
+  TNumericInplaceForm numeric;
+  numeric.SetLimits(Range(Int64Min, Int64Max));
+  numeric.TrackBar->setValue(4095);
+  EXPECT_GT(numeric.GetValue().AsInt64(), Int64Max / 4096 * 4093);
+  numeric.TrackBar->setValue(0);
+  EXPECT_EQ(numeric.GetValue().AsInt64(), Int64Min);
+
+  TRealInplaceFormUnit real;
+  const Double highest = std::numeric_limits<Double>::max();
+  real.SetLimits(Range(-highest, highest));
+  real.SetValue(TValue::From<Double>(0));
+  EXPECT_EQ(real.TrackBar->value(), 2048);
+  real.TrackBar->setValue(0);
+  EXPECT_EQ(real.GetValue().AsExtended(), -highest);
+  real.TrackBar->setValue(4095);
+  EXPECT_TRUE(std::isfinite(double(real.GetValue().AsExtended())));
+}
+
+// Positions in whole quarters; a value the bar's position means already moves nothing.
 TEST(RealInplaceFormTest, PlacesTheValueInQuartersAndReadsItBack) {
   TRealInplaceFormUnit form;
-  form.SetLimits(RealRange(-1, 1));
+  form.SetLimits(Range<Double>(-1, 1));
   form.SetValue(TValue::From<Double>(0.5));
   EXPECT_EQ(form.TrackBar->value(), 3072);
-  form.SetValue(TValue::From<Double>(0.1)); // 2252.8: whole quarters
+  form.SetValue(TValue::From<Double>(0.1)); // 2252.8
   EXPECT_EQ(form.TrackBar->value(), 2252);
   int changes = 0;
   form.OnValueChange = [&](QWidget*) { ++changes; };
-  form.TrackBar->setValue(1024);
-  EXPECT_EQ(changes, 1);
-  EXPECT_DOUBLE_EQ(form.GetValue().AsExtended(), -0.5);
-}
-
-TEST(RealInplaceFormTest, AValueThatThePositionMeansAlreadyMovesNothing) {
-  TRealInplaceFormUnit form;
-  form.SetLimits(RealRange(0, 1));
   form.TrackBar->setValue(1001); // not a quarter position
-  form.SetValue(TValue::From<Double>(1001 / 4096.0));
+  EXPECT_EQ(changes, 1);
+  EXPECT_DOUBLE_EQ(form.GetValue().AsExtended(), 1001 / 2048.0 - 1);
+  form.SetValue(TValue::From<Double>(1001 / 2048.0 - 1));
   EXPECT_EQ(form.TrackBar->value(), 1001);
-  form.SetValue(TValue::From<Double>(0.5));
-  EXPECT_EQ(form.TrackBar->value(), 2048);
+  EXPECT_EQ(changes, 1);
 }
 
+// As an editor does: the change writes the value, which comes back to every open form.
 TEST(RealInplaceFormTest, TheValueComingBackDuringAChangeIsIgnored) {
   TRealInplaceFormUnit form;
-  form.SetLimits(RealRange(0, 100));
-  // As an editor does: writes the value, which comes back to every open form.
+  form.SetLimits(Range<Double>(0, 100));
   form.OnValueChange = [&](QWidget*) { form.SetValue(TValue::From<Double>(99)); };
   form.TrackBar->setValue(1000);
   EXPECT_EQ(form.TrackBar->value(), 1000);
@@ -158,18 +142,6 @@ TEST(RealInplaceFormTest, TheValueComingBackDuringAChangeIsIgnored) {
   form.OnValueChange = nullptr;
   form.SetValue(TValue::From<Double>(25)); // unlocked again
   EXPECT_EQ(form.TrackBar->value(), 1024);
-}
-
-TEST(RealInplaceFormTest, TheFullDoubleRangeStaysFinite) {
-  TRealInplaceFormUnit form;
-  const Double highest = std::numeric_limits<Double>::max();
-  form.SetLimits(RealRange(-highest, highest));
-  form.SetValue(TValue::From<Double>(0));
-  EXPECT_EQ(form.TrackBar->value(), 2048);
-  form.TrackBar->setValue(0);
-  EXPECT_EQ(form.GetValue().AsExtended(), -highest);
-  form.TrackBar->setValue(4095);
-  EXPECT_TRUE(std::isfinite(double(form.GetValue().AsExtended())));
 }
 
 } // namespace

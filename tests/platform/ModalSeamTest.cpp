@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QColorDialog>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -11,57 +10,48 @@
 namespace Tarvo {
 namespace {
 
-TEST(ModalSeamTest, HandlerFillsAndAcceptsADialog) {
-  QColorDialog dialog(QColor(Qt::red));
-  TModalHandlerScope scope([](QDialog& ADialog) {
-    auto* colorDialog = qobject_cast<QColorDialog*>(&ADialog);
-    EXPECT_NE(colorDialog, nullptr);
-    if (colorDialog) colorDialog->setCurrentColor(QColor(10, 20, 30));
-    return int(QDialog::Accepted);
-  });
-  EXPECT_EQ(ExecuteModal(dialog), QDialog::Accepted);
-  // Closed as by the OK button: the dialog settled its selection.
-  EXPECT_EQ(dialog.selectedColor(), QColor(10, 20, 30));
-  EXPECT_EQ(dialog.result(), QDialog::Accepted);
-  EXPECT_FALSE(dialog.isVisible());
-}
-
-TEST(ModalSeamTest, CancelLeavesTheSelectionUnset) {
-  QColorDialog dialog(QColor(Qt::red));
-  TModalHandlerScope scope([](QDialog& ADialog) {
-    static_cast<QColorDialog&>(ADialog).setCurrentColor(QColor(10, 20, 30));
-    return int(QDialog::Rejected);
-  });
-  EXPECT_EQ(ExecuteModal(dialog), QDialog::Rejected);
-  EXPECT_FALSE(dialog.selectedColor().isValid());
-}
-
-TEST(ModalSeamTest, ScopesNestAndRestore) {
-  int outerRuns = 0, innerRuns = 0;
-  QDialog dialog;
-  {
-    TModalHandlerScope outer([&](QDialog&) { return ++outerRuns, int(QDialog::Accepted); });
-    {
-      TModalHandlerScope inner([&](QDialog&) { return ++innerRuns, int(QDialog::Rejected); });
-      EXPECT_EQ(ExecuteModal(dialog), QDialog::Rejected);
+// The handler fills the dialog; closed with the handler's code as by a click, the dialog settles
+// its selection on OK only.
+TEST(ModalSeamTest, HandlerFillsAndClosesTheDialog) {
+  for (int code : {int(QDialog::Accepted), int(QDialog::Rejected)}) {
+    QColorDialog dialog(QColor(Qt::red));
+    TModalHandlerScope scope([code](QDialog& ADialog) {
+      auto* colorDialog = qobject_cast<QColorDialog*>(&ADialog);
+      EXPECT_NE(colorDialog, nullptr);
+      if (colorDialog) colorDialog->setCurrentColor(QColor(10, 20, 30));
+      return code;
+    });
+    EXPECT_EQ(ExecuteModal(dialog), code);
+    EXPECT_EQ(dialog.result(), code);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(dialog.selectedColor().isValid(), code == QDialog::Accepted);
+    if (code == QDialog::Accepted) {
+      EXPECT_EQ(dialog.selectedColor(), QColor(10, 20, 30));
     }
-    EXPECT_EQ(ExecuteModal(dialog), QDialog::Accepted);
   }
-  EXPECT_EQ(innerRuns, 1);
-  EXPECT_EQ(outerRuns, 1);
-  EXPECT_FALSE(SetModalHandler(nullptr));
 }
 
-TEST(ModalSeamTest, AHandlerMayRunANestedDialog) {
+// Scopes nest and restore the handler before them; a handler may run a nested dialog.
+TEST(ModalSeamTest, ScopesNestAndHandlersMayRunNestedDialogs) {
   QDialog outerDialog, innerDialog;
-  int innerResult = -1;
-  TModalHandlerScope scope([&](QDialog& ADialog) {
-    if (&ADialog == &innerDialog) return int(QDialog::Rejected);
-    innerResult = ExecuteModal(innerDialog);
-    return int(QDialog::Accepted);
-  });
-  EXPECT_EQ(ExecuteModal(outerDialog), QDialog::Accepted);
-  EXPECT_EQ(innerResult, QDialog::Rejected);
+  int outerRuns = 0, innerResult = -1;
+  {
+    TModalHandlerScope outer([&](QDialog& ADialog) {
+      if (&ADialog == &innerDialog) return int(QDialog::Rejected);
+      ++outerRuns;
+      innerResult = ExecuteModal(innerDialog);
+      return int(QDialog::Accepted);
+    });
+    {
+      TModalHandlerScope inner([](QDialog&) { return int(QDialog::Rejected); });
+      EXPECT_EQ(ExecuteModal(outerDialog), QDialog::Rejected);
+      EXPECT_EQ(outerRuns, 0);
+    }
+    EXPECT_EQ(ExecuteModal(outerDialog), QDialog::Accepted);
+    EXPECT_EQ(innerResult, QDialog::Rejected);
+    EXPECT_EQ(outerRuns, 1);
+  }
+  EXPECT_FALSE(SetModalHandler(nullptr));
 }
 
 TEST(MessageDlgTest, ShowsTheMessageWithTheButtonsAsked) {
@@ -85,20 +75,15 @@ TEST(MessageDlgTest, ShowsTheMessageWithTheButtonsAsked) {
   EXPECT_EQ(defaultText.remove('&'), "No");
 }
 
+// A button not on the box answers as dismissed.
 TEST(MessageDlgTest, AnswersEachButtonByItsCode) {
-  const struct {
-    QMessageBox::StandardButton Pressed;
-    TMsgDlgBtn Expected;
-  } cases[] = {
-      {QMessageBox::Yes, mbYes},         {QMessageBox::Ok, mbOK},         {QMessageBox::Retry, mbRetry},
+  const std::pair<QMessageBox::StandardButton, TMsgDlgBtn> cases[] = {
+      {QMessageBox::Yes, mbYes},         {QMessageBox::Ok, mbOK},           {QMessageBox::Retry, mbRetry},
       {QMessageBox::SaveAll, mbAll},     {QMessageBox::NoToAll, mbNoToAll}, {QMessageBox::Close, mbClose},
-      // Not on the box: dismissed.
-      {QMessageBox::NoButton, mbCancel}, {QMessageBox::Help, mbCancel},
-  };
-  for (const auto& c : cases) {
-    TModalHandlerScope scope([&](QDialog&) { return int(c.Pressed); });
-    EXPECT_EQ(MessageDlg("?", mtWarning, {mbYes, mbOK, mbRetry, mbAll, mbNoToAll, mbClose}, mbOK), c.Expected)
-        << c.Pressed;
+      {QMessageBox::NoButton, mbCancel}, {QMessageBox::Help, mbCancel}};
+  for (const auto& [pressed, expected] : cases) {
+    TModalHandlerScope scope([pressed](QDialog&) { return int(pressed); });
+    EXPECT_EQ(MessageDlg("?", mtWarning, {mbYes, mbOK, mbRetry, mbAll, mbNoToAll, mbClose}, mbOK), expected) << pressed;
   }
 }
 

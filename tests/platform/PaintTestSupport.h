@@ -1,12 +1,15 @@
 #pragma once
-// Canvases and pixel checks shared by the drawing tests.
+// Canvases, pictures and pixel checks shared by the drawing tests.
 
 #include <QImage>
+
+#include <gtest/gtest.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "platform/GXGraphics.h"
 
@@ -31,6 +34,22 @@ inline QImage Paint(int AWidth, int AHeight, const std::function<void(IGXGraphic
   return image;
 }
 
+// The whole canvas filled with ABrush.
+inline QImage FillWith(const TRef<IGXBrush>& ABrush, int AWidth, int AHeight, TAlphaColor ABackground = claWhite) {
+  return Paint(AWidth, AHeight, [&](IGXGraphics& AGraphics) { AGraphics.FillRectangle(ABrush, TIGXRect(0, 0, AWidth, AHeight)); },
+               ABackground);
+}
+
+// Two by two: red, green / blue, yellow.
+inline TRef<TIGXBitmap> Quad() {
+  const auto bitmap = New<TIGXBitmap>(2, 2);
+  bitmap->SetPixel(0, 0, Red);
+  bitmap->SetPixel(1, 0, Green);
+  bitmap->SetPixel(0, 1, Blue);
+  bitmap->SetPixel(1, 1, Yellow);
+  return bitmap;
+}
+
 // Unpremultiplied, as colours are given.
 inline TAlphaColor Pixel(const QImage& AImage, int AX, int AY) {
   const QRgb pixel = AImage.pixel(AX, AY);
@@ -50,10 +69,28 @@ inline std::string Hex(TAlphaColor AColor) {
   return text;
 }
 
+// The pixel at (AX, AY) within ATolerance of AExpected, for EXPECT_TRUE; names both when not.
+inline testing::AssertionResult PixelNear(const QImage& AImage, int AX, int AY, TAlphaColor AExpected, int ATolerance) {
+  const TAlphaColor actual = Pixel(AImage, AX, AY);
+  if (Near(actual, AExpected, ATolerance)) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << "(" << AX << ", " << AY << ") is " << Hex(actual) << ", not " << Hex(AExpected);
+}
+
 // One row of pixels as text: '#' where the pixel is AInk, '.' elsewhere.
 inline std::string Row(const QImage& AImage, int AY, int AFrom, int ACount, TAlphaColor AInk = claBlack) {
   std::string row;
   for (int x = AFrom; x < AFrom + ACount; ++x) row += Pixel(AImage, x, AY) == AInk ? '#' : '.';
+  return row;
+}
+
+// One row of pixels as the letters of the test colours: r, g, b, y, k (black), w (white), or '?'.
+inline std::string Colours(const QImage& AImage, int AY, int AFrom, int ACount) {
+  static const std::pair<TAlphaColor, char> letters[] = {{Red, 'r'}, {Green, 'g'}, {Blue, 'b'}, {Yellow, 'y'},
+                                                          {claBlack, 'k'}, {claWhite, 'w'}};
+  std::string row(ACount, '?');
+  for (int i = 0; i < ACount; ++i)
+    for (auto [color, letter] : letters)
+      if (Pixel(AImage, AFrom + i, AY) == color) row[i] = letter;
   return row;
 }
 

@@ -22,10 +22,9 @@ TRef<IGXStringFormat> Format(Cardinal AFlags, TIGXStringTrimming ATrimming = stN
 }
 
 // Measures on a scratch image, as a host measures before it paints.
-TIGXRect Measure(const String& AText, const TRef<IGXFont>& AFont, const TIGXSize& ALayout,
-                 const TRef<IGXStringFormat>& AFormat = nullptr) {
+TIGXRect Measure(const String& AText, const TRef<IGXFont>& AFont, Single AWidth = 0, const TRef<IGXStringFormat>& AFormat = nullptr) {
   QImage scratch = Canvas(1, 1);
-  return New<TIGXGraphics>(scratch)->MeasureString(AText, AFont, ALayout, AFormat);
+  return New<TIGXGraphics>(scratch)->MeasureString(AText, AFont, TIGXSize{AWidth, 0}, AFormat);
 }
 
 // The box of every pixel that is no longer white; empty when nothing was painted.
@@ -37,39 +36,28 @@ QRect Ink(const QImage& AImage) {
   return ink;
 }
 
-TEST(MeasureStringTest, GrowsWithTheText) {
+TEST(MeasureStringTest, GrowsWithTheTextAndWrapsUnlessToldNotTo) {
   const auto font = Font();
-  Single previous = 0;
-  for (const String text : {"W", "WW", "WWWW", "WWWWWWWW"}) {
-    const TIGXRect box = Measure(text, font, TIGXSize{});
-    EXPECT_GT(box.Width, previous) << text;
-    EXPECT_GT(box.Height, 0) << text;
-    previous = box.Width;
-  }
-  EXPECT_GT(Measure("Wide", Font(gfsBold), TIGXSize{}).Width, Measure("Wide", font, TIGXSize{}).Width);
+  EXPECT_GT(Measure("WWWW", font).Width, Measure("WW", font).Width);
+  EXPECT_GT(Measure("Wide", Font(gfsBold)).Width, Measure("Wide", font).Width);
   // 10 points are about 13 pixels at 96 dots per inch.
-  EXPECT_GT(Measure("x", Font(gfsRegular, 10, fuPoint), TIGXSize{}).Height,
-            Measure("x", Font(gfsRegular, 10, fuPixel), TIGXSize{}).Height);
-}
-
-TEST(MeasureStringTest, WrapsUnlessToldNotTo) {
-  const auto font = Font();
-  const Single line = Measure("x", font, TIGXSize{}).Height;
-  const TIGXRect wrapped = Measure(LongText, font, TIGXSize{80, 0});
+  EXPECT_GT(Measure("x", font).Height, Measure("x", Font(gfsRegular, 10, fuPixel)).Height);
+  const Single line = Measure("x", font).Height;
+  EXPECT_GT(line, 0);
+  const TIGXRect wrapped = Measure(LongText, font, 80);
   EXPECT_GT(wrapped.Height, 2 * line);
   EXPECT_LE(wrapped.Width, 80);
-  const TIGXRect single = Measure(LongText, font, TIGXSize{80, 0}, Format(sfNoWrap));
+  const TIGXRect single = Measure(LongText, font, 80, Format(sfNoWrap));
   EXPECT_EQ(single.Height, line);
-  // Trimmed to the width with an ellipsis, the line no longer outgrows its box.
   EXPECT_GT(single.Width, 80);
-  EXPECT_LE(Measure(LongText, font, TIGXSize{80, 0}, Format(sfNoWrap, stEllipsisCharacter)).Width, 80);
+  // Trimmed with an ellipsis, the line no longer outgrows its width.
+  EXPECT_LE(Measure(LongText, font, 80, Format(sfNoWrap, stEllipsisCharacter)).Width, 80);
 }
 
 TEST(DrawStringTest, EllipsisKeepsTheTextInsideItsRectangle) {
-  const TIGXRect box(10, 5, 80, 20);
   const auto draw = [&](const TRef<IGXStringFormat>& AFormat) {
     return Ink(Paint(200, 30, [&](IGXGraphics& AGraphics) {
-      AGraphics.DrawString(LongText, Font(), box, AFormat, New<TIGXSolidBrush>(claBlack));
+      AGraphics.DrawString(LongText, Font(), TIGXRect(10, 5, 80, 20), AFormat, New<TIGXSolidBrush>(claBlack));
     }));
   };
   const QRect inside(10, 5, 80, 20);
@@ -83,40 +71,34 @@ TEST(DrawStringTest, EllipsisKeepsTheTextInsideItsRectangle) {
   EXPECT_GT(draw(Format(sfNoWrap | sfNoClip)).right(), 150);
 }
 
-struct TAlignCase {
-  TIGXStringAlignment Alignment;
-  TIGXStringAlignment LineAlignment;
-  int CentreX, CentreY; // of the ink, within a few pixels
-};
-
-class StringAlignmentTest : public testing::TestWithParam<TAlignCase> {};
-
-TEST_P(StringAlignmentTest, PlacesTheTextInItsRectangle) {
-  const TAlignCase c = GetParam();
-  const auto format = New<TIGXStringFormat>();
-  format->SetAlignment(c.Alignment);
-  format->SetLineAlignment(c.LineAlignment);
-  const QRect ink = Ink(Paint(120, 60, [&](IGXGraphics& AGraphics) {
-    AGraphics.DrawString("mmmm", Font(gfsRegular, 12, fuPixel), TIGXRect(0, 0, 120, 60), format, New<TIGXSolidBrush>(claBlack));
-  }));
-  ASSERT_FALSE(ink.isEmpty());
-  EXPECT_NEAR(ink.center().x(), c.CentreX, 12);
-  EXPECT_NEAR(ink.center().y(), c.CentreY, 8);
+// The centre of the ink, within a few pixels, for each alignment in a 120 by 60 rectangle.
+TEST(DrawStringTest, AlignmentsPlaceTheTextInItsRectangle) {
+  const struct {
+    TIGXStringAlignment Alignment, LineAlignment;
+    int CentreX, CentreY;
+  } cases[] = {{saNear, saNear, 18, 6}, {saCenter, saCenter, 60, 30}, {saFar, saFar, 102, 54}, {saFar, saNear, 102, 6}};
+  for (const auto& c : cases) {
+    const auto format = New<TIGXStringFormat>();
+    format->SetAlignment(c.Alignment);
+    format->SetLineAlignment(c.LineAlignment);
+    const QRect ink = Ink(Paint(120, 60, [&](IGXGraphics& AGraphics) {
+      AGraphics.DrawString("mmmm", Font(gfsRegular, 12, fuPixel), TIGXRect(0, 0, 120, 60), format, New<TIGXSolidBrush>(claBlack));
+    }));
+    ASSERT_FALSE(ink.isEmpty());
+    EXPECT_NEAR(ink.center().x(), c.CentreX, 12) << c.Alignment << "/" << c.LineAlignment;
+    EXPECT_NEAR(ink.center().y(), c.CentreY, 8) << c.Alignment << "/" << c.LineAlignment;
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(Alignments, StringAlignmentTest,
-                         testing::Values(TAlignCase{saNear, saNear, 18, 6}, TAlignCase{saCenter, saCenter, 60, 30},
-                                         TAlignCase{saFar, saFar, 102, 54}, TAlignCase{saFar, saNear, 102, 6}));
-
+// The darkest pixel of the first and of the last column of ink: red at the left, blue at the right.
 TEST(DrawStringTest, AnyBrushFillsTheGlyphs) {
   const TIGXRect box(0, 0, 160, 30);
-  const auto brush = New<TIGXLinearGradientBrush>(box, Red, Blue, lgmHorizontal);
   const QImage image = Paint(160, 30, [&](IGXGraphics& AGraphics) {
-    AGraphics.DrawString("IIIIIIIIIIIIIIIIIIII", Font(gfsBold, 24, fuPixel), box, nullptr, brush);
+    AGraphics.DrawString("IIIIIIIIIIIIIIIIIIII", Font(gfsBold, 24, fuPixel), box, nullptr,
+                         New<TIGXLinearGradientBrush>(box, Red, Blue, lgmHorizontal));
   });
   const QRect ink = Ink(image);
   ASSERT_FALSE(ink.isEmpty());
-  // The darkest pixel of the first and of the last column of ink: red at the left, blue at the right.
   const auto strongest = [&](int AX) {
     TAlphaColor best = claWhite;
     for (int y = ink.top(); y <= ink.bottom(); ++y)
@@ -129,11 +111,11 @@ TEST(DrawStringTest, AnyBrushFillsTheGlyphs) {
   EXPECT_EQ(Pixel(image, ink.left() - 1, ink.center().y()), claWhite); // the background stays
 }
 
-TEST(FontTest, SizeMustBePositive) {
-  EXPECT_THROW(New<TIGXFont>("DejaVu Sans", 0.0f), EArgumentOutOfRangeException);
+TEST(FontTest, StylesReachTheQtFontAndTheSizeMustBePositive) {
   const QFont font = Font(gfsBold | gfsItalic | gfsUnderline, 9, fuPoint)->ToQFont();
   EXPECT_TRUE(font.bold() && font.italic() && font.underline() && !font.strikeOut());
   EXPECT_EQ(font.pointSizeF(), 9.0);
+  EXPECT_THROW(New<TIGXFont>("DejaVu Sans", 0.0f), EArgumentOutOfRangeException);
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QCloseEvent>
 
 #include <string>
 #include <vector>
@@ -26,7 +25,7 @@ protected:
 // Writes down what the grid is told.
 class TGridLog : public TImplements<TInterfacedObject, IMemberUIUpdate> {
 public:
-  explicit TGridLog(std::string AName, std::vector<std::string>* ALog) : FName(std::move(AName)), FLog(ALog) {}
+  TGridLog(std::string AName, std::vector<std::string>* ALog) : FName(std::move(AName)), FLog(ALog) {}
   void EndEdit() override { FLog->push_back(FName + ".EndEdit"); }
   void Invalidate() override { FLog->push_back(FName + ".Invalidate"); }
   void Refresh(Boolean AReadValues) override { FLog->push_back(FName + ".Refresh(" + (AReadValues ? "true" : "false") + ")"); }
@@ -37,32 +36,29 @@ private:
   std::vector<std::string>* FLog;
 };
 
-using TProbeController = TInplaceEditorFormController<TProbeForm>;
-
 class InplaceFormControllerTest : public testing::Test {
 protected:
-  TRef<TProbeController> MakeController() {
-    return New<TProbeController>([this](TIGXRect ARect) { return Made.push_back(ARect), new TProbeForm(); },
-                                 [](TProbeForm* AForm) { AForm->ParentWhenUpdated = AForm->parentWidget(); });
-  }
-  TRef<IMemberUIUpdate> Grid(const std::string& AName) { return New<TGridLog>(AName, &Log); }
-
+  TRef<TInplaceEditorFormController<TProbeForm>> FController = New<TInplaceEditorFormController<TProbeForm>>(
+      [this](TIGXRect ARect) { return Made.push_back(ARect), new TProbeForm(); },
+      [](TProbeForm* AForm) { AForm->ParentWhenUpdated = AForm->parentWidget(); });
   QWidget FGrid;
-  TRef<IPaintObjects> FPaintObjects = New<TPaintObjects>();
   std::vector<TIGXRect> Made;
   std::vector<std::string> Log;
+
+  TRef<IInplaceForm> Open(const std::string& AGrid, Integer ATop, QWidget* AParent = nullptr) {
+    return FController->GetInplaceForm(AParent ? AParent : &FGrid, New<TPaintObjects>(), New<TGridLog>(AGrid, &Log),
+                                       TIGXRect(5, ATop, 120, 16));
+  }
 };
 
+// Made for the row's rectangle, wired and filled before it joins the grid, then shown under the
+// row at its own height in the colour of a plain row.
 TEST_F(InplaceFormControllerTest, OpensTheFormUnderTheRowAtItsOwnHeight) {
-  FGrid.resize(300, 300);
   FGrid.show();
-  const auto controller = MakeController();
-  const auto form = controller->GetInplaceForm(&FGrid, FPaintObjects, Grid("grid"), TIGXRect(5, 40, 120, 16));
+  const auto form = Open("grid", 40);
   auto* widget = static_cast<TProbeForm*>(form->GetForm());
-  ASSERT_NE(widget, nullptr);
-  ASSERT_EQ(Made.size(), 1u);
-  EXPECT_EQ(Made[0], TIGXRect(5, 40, 120, 16));
-  EXPECT_EQ(widget->ParentWhenUpdated, nullptr); // wired and filled before it joins the grid
+  EXPECT_EQ(Made, (std::vector<TIGXRect>{TIGXRect(5, 40, 120, 16)}));
+  EXPECT_EQ(widget->ParentWhenUpdated, nullptr);
   EXPECT_EQ(widget->parentWidget(), &FGrid);
   EXPECT_EQ(widget->geometry(), QRect(5, 40, 120, TProbeForm::OwnHeight));
   EXPECT_EQ(form->GetHeight(), TProbeForm::OwnHeight);
@@ -70,65 +66,57 @@ TEST_F(InplaceFormControllerTest, OpensTheFormUnderTheRowAtItsOwnHeight) {
   EXPECT_EQ(GetControlColor(widget), clWindow);
 }
 
-TEST_F(InplaceFormControllerTest, KeepsItsFormsUntilDroppedAndTheLatestGridHandle) {
-  const auto controller = MakeController();
-  const auto first = controller->GetInplaceForm(&FGrid, FPaintObjects, Grid("a"), TIGXRect(0, 0, 50, 16));
-  const auto second = controller->GetInplaceForm(&FGrid, FPaintObjects, Grid("b"), TIGXRect(0, 20, 50, 16));
-  EXPECT_EQ(controller->GetUIUpdate(), second->GetUIUpdate());
-
-  auto forms = controller->GetForms();
+// Forms stay listed until dropped; closing any of them ends the edit of the grid opened last.
+TEST_F(InplaceFormControllerTest, KeepsItsFormsAndTheLatestGridHandle) {
+  const auto first = Open("a", 0), second = Open("b", 20);
+  EXPECT_EQ(FController->GetUIUpdate(), second->GetUIUpdate());
+  auto forms = FController->GetForms();
   ASSERT_EQ(forms->GetCount(), 2);
   EXPECT_EQ(forms->GetItem(0).Form, first->GetForm());
   EXPECT_EQ(forms->GetItem(0).UIUpdate, first->GetUIUpdate());
   EXPECT_EQ(forms->GetItem(1).Form, second->GetForm());
 
-  controller->DropForm(first);
-  forms = controller->GetForms();
-  ASSERT_EQ(forms->GetCount(), 1);
-  EXPECT_EQ(forms->GetItem(0).Form, second->GetForm());
-  // Dropping forgets; the grid's handle still holds the form.
-  EXPECT_NE(first->GetForm(), nullptr);
-}
-
-TEST_F(InplaceFormControllerTest, ClosingAFormEndsTheEditOfTheLatestGrid) {
-  const auto controller = MakeController();
-  const auto first = controller->GetInplaceForm(&FGrid, FPaintObjects, Grid("a"), TIGXRect(0, 0, 50, 16));
-  controller->GetInplaceForm(&FGrid, FPaintObjects, Grid("b"), TIGXRect(0, 20, 50, 16));
   first->GetForm()->close();
   EXPECT_EQ(Log, (std::vector<std::string>{"b.EndEdit", "b.Refresh(true)"}));
+  FController->DropForm(first);
+  forms = FController->GetForms();
+  ASSERT_EQ(forms->GetCount(), 1);
+  EXPECT_EQ(forms->GetItem(0).Form, second->GetForm());
+  EXPECT_NE(first->GetForm(), nullptr); // dropping forgets; the grid's handle still holds the form
 }
 
-TEST_F(InplaceFormControllerTest, AFormOutlivingItsControllerClosesSafely) {
-  TRef<IInplaceForm> form = MakeController()->GetInplaceForm(&FGrid, FPaintObjects, Grid("a"), TIGXRect(0, 0, 50, 16));
-  ASSERT_NE(form->GetForm(), nullptr);
-  form->GetForm()->close();
-  EXPECT_TRUE(Log.empty());
-}
-
-TEST_F(InplaceFormControllerTest, ADestroyedFormLeavesASafeHandle) {
-  const auto controller = MakeController();
+// A form that outlives its controller closes without a word; one its parent took down leaves
+// a handle that answers as for no form.
+TEST_F(InplaceFormControllerTest, FormsOutlivingTheirControllerOrDestroyedFromOutsideAreSafe) {
+  const auto orphan = Open("a", 0);
   auto* grid = new QWidget();
-  const auto form = controller->GetInplaceForm(grid, FPaintObjects, Grid("a"), TIGXRect(0, 0, 50, 16));
+  const auto destroyed = Open("b", 20, grid);
+  FController = nullptr;
+  orphan->GetForm()->close();
+  EXPECT_TRUE(Log.empty());
+
+  FController = New<TInplaceEditorFormController<TProbeForm>>([](TIGXRect) { return new TProbeForm(); });
+  const auto form = Open("c", 0, grid);
   delete grid;
-  EXPECT_EQ(form->GetForm(), nullptr);
-  EXPECT_EQ(form->GetHeight(), 0);
-  form->UpdateRect(TIGXRect(1, 2, 3, 4));
-  form->UpdateColor(clHighlight);
-  EXPECT_EQ(controller->GetForms()->GetItem(0).Form, nullptr);
+  for (const auto& gone : {destroyed, form}) {
+    EXPECT_EQ(gone->GetForm(), nullptr);
+    EXPECT_EQ(gone->GetHeight(), 0);
+    gone->UpdateRect(TIGXRect(1, 2, 3, 4));
+    gone->UpdateColor(clHighlight);
+  }
+  EXPECT_EQ(FController->GetForms()->GetItem(0).Form, nullptr);
 }
 
-TEST(InplaceFormTest, TheHandleTakesItsFormAlong) {
-  QPointer<QWidget> widget = new TProbeForm();
-  New<TInplaceForm>(widget.data(), nullptr);
-  EXPECT_TRUE(widget.isNull());
-}
-
-TEST(InplaceFormTest, UpdateRectKeepsTheFormsHeight) {
-  const auto form = New<TInplaceForm>(new TProbeForm(), nullptr);
+// The handle takes its form along; it moves and widens the form, rounded, at the form's own height.
+TEST(InplaceFormTest, TheHandleMovesTheFormAndTakesItAlong) {
+  auto form = New<TInplaceForm>(new TProbeForm(), nullptr);
+  const QPointer<QWidget> widget = form->GetForm();
   form->UpdateRect(TIGXRect(7, 9, 140, 300));
-  EXPECT_EQ(form->GetForm()->geometry(), QRect(7, 9, 140, TProbeForm::OwnHeight));
+  EXPECT_EQ(widget->geometry(), QRect(7, 9, 140, TProbeForm::OwnHeight));
   form->UpdateRect(TIGXRect(3.4f, 8.6f, 99.5f, 2.0f));
-  EXPECT_EQ(form->GetForm()->geometry(), QRect(3, 9, 100, TProbeForm::OwnHeight));
+  EXPECT_EQ(widget->geometry(), QRect(3, 9, 100, TProbeForm::OwnHeight));
+  form = nullptr;
+  EXPECT_TRUE(widget.isNull());
 }
 
 TEST(InplaceFormTest, UpdateColorRepaintsOnlyOnAChange) {
@@ -137,15 +125,12 @@ TEST(InplaceFormTest, UpdateColorRepaintsOnlyOnAChange) {
   widget->setParent(&grid);
   const auto form = New<TInplaceForm>(widget, nullptr);
   grid.show();
-  QApplication::processEvents();
   SetControlColor(widget, clWindow);
   QApplication::processEvents();
-
   widget->Paints = 0;
   form->UpdateColor(clWindow);
   QApplication::processEvents();
   EXPECT_EQ(widget->Paints, 0);
-
   form->UpdateColor(clHighlight);
   EXPECT_EQ(widget->Paints, 1); // at once, not when the loop comes round
   EXPECT_EQ(GetControlColor(widget), clHighlight);

@@ -10,52 +10,40 @@ namespace {
 
 TAlphaColor BrushColor(const TRef<IGXBrush>& ABrush) { return QueryAs<IGXSolidBrush>(ABrush)->GetColor(); }
 
-TEST(PaintObjectSetTest, ResolvesTheBrushes) {
+// Brushes take the colours resolved, the sets keep them as given; selected and highlighted rows
+// share one set.
+TEST(PaintObjectsTest, SetsResolveTheirBrushesAndRowsTakeWindowAndHighlightColours) {
   const auto set = New<TPaintObjectSet>(clHighlight, TColor(0x0080FF));
   EXPECT_EQ(BrushColor(set->GetBackgroundBrush()), MakeColor(clHighlight));
-  EXPECT_EQ(BrushColor(set->GetFontBrush()), 0xFFFF8000u); // TColor keeps blue high, ARGB red
+  EXPECT_EQ(BrushColor(set->GetFontBrush()), 0xFFFF8000u);
   EXPECT_FALSE(set->GetHostObject());
-}
 
-TEST(ItemObjectSetTest, RowStatesTakeWindowAndHighlightColours) {
   const auto list = New<TItemObjectSet>();
-  EXPECT_EQ(list->GetNone()->GetBkgColor(), TColor(0xFF000005));
-  EXPECT_EQ(list->GetNone()->GetFontColor(), TColor(0xFF000008));
-  EXPECT_EQ(list->GetHighlighted()->GetBkgColor(), TColor(0xFF00000D));
-  EXPECT_EQ(list->GetHighlighted()->GetFontColor(), TColor(0xFF00000E));
+  EXPECT_EQ(list->GetNone()->GetBkgColor(), clWindow);
+  EXPECT_EQ(list->GetNone()->GetFontColor(), clWindowText);
+  EXPECT_EQ(list->GetHighlighted()->GetBkgColor(), clHighlight);
+  EXPECT_EQ(list->GetHighlighted()->GetFontColor(), clHighlightText);
   EXPECT_EQ(list->GetSelected(), list->GetHighlighted());
-  EXPECT_FALSE(list->GetNone() == list->GetHighlighted());
 }
 
+// Whether or not the named family is installed, the one used is; only a host gives bitmaps.
 TEST(PaintObjectsTest, DefaultsAndTheirFontFallback) {
   const auto objects = New<TPaintObjects>();
   const auto font = objects->GetFont();
-  const auto modified = objects->GetModifiedFont();
   EXPECT_EQ(font->GetSize(), 8.0f);
   EXPECT_EQ(font->GetUnit(), fuPoint);
   EXPECT_EQ(font->GetStyle(), gfsRegular);
-  EXPECT_EQ(modified->GetStyle(), gfsBold);
-  EXPECT_EQ(modified->GetFamily(), font->GetFamily());
-  // Whether or not the named family is installed, the one used is.
+  EXPECT_EQ(objects->GetModifiedFont()->GetStyle(), gfsBold);
+  EXPECT_EQ(objects->GetModifiedFont()->GetFamily(), font->GetFamily());
   EXPECT_TRUE(QFontDatabase::families().contains(QString::fromStdString(font->GetFamily()))) << font->GetFamily();
   if (QFontDatabase::families().contains(TPaintObjects::DefaultFontFamily)) {
     EXPECT_EQ(font->GetFamily(), TPaintObjects::DefaultFontFamily);
   }
-
   const auto format = objects->GetStringFormat();
-  EXPECT_EQ(format->GetFormatFlags(), 4096u);
-  EXPECT_EQ(format->GetTrimming(), 3);
-  EXPECT_EQ(format->GetLineAlignment(), 1);
-  EXPECT_EQ(format->GetAlignment(), saNear);
-  EXPECT_TRUE(objects->GetListSet());
-}
-
-TEST(PaintObjectsTest, OnlyAHostGivesBitmapsAndReservedObjects) {
-  const auto objects = New<TPaintObjects>();
-  EXPECT_FALSE(objects->GetCheckedBitmap());
-  EXPECT_FALSE(objects->GetUncheckedBitmap());
-  EXPECT_FALSE(objects->GetGrayedBitmap());
-  for (Integer place : {4, 9, 23, 27, 33}) EXPECT_FALSE(objects->GetHostObject(place)) << place;
+  EXPECT_EQ(format->GetFormatFlags(), sfNoWrap);
+  EXPECT_EQ(format->GetTrimming(), stEllipsisCharacter);
+  EXPECT_EQ(format->GetLineAlignment(), saCenter);
+  EXPECT_FALSE(objects->GetCheckedBitmap() || objects->GetUncheckedBitmap() || objects->GetGrayedBitmap());
 }
 
 class DesignPaintObjectsTest : public testing::Test {
@@ -64,7 +52,7 @@ protected:
   void TearDown() override { FinalizeDesignPaintObjects(); }
 };
 
-TEST_F(DesignPaintObjectsTest, TheHookLeavesTheDefaultUnbuilt) {
+TEST_F(DesignPaintObjectsTest, TheHookAnswersAloneAndLeavesTheDefaultUnbuilt) {
   const TRef<IPaintObjects> hosts = New<TPaintObjects>();
   int calls = 0;
   _GetDesignPaintObjects = [&] { return ++calls, hosts; };
@@ -96,14 +84,12 @@ public:
   String GetCustomHint() override { return "hint"; }
 };
 
+// The shared operations have no identity of their own, so one form is never taken for the other.
 TEST(EditorPaintInterfacesTest, PropertyAndMemberFormsAreTold) {
   const TRef<IInterface> editor = New<TPropertyOnlyEditor>();
-  EXPECT_TRUE(Supports<IPropertyEditorMouse>(editor));
-  EXPECT_TRUE(Supports<IPropertyEditorCustomHint>(editor));
-  EXPECT_FALSE(Supports<IMemberEditorMouse>(editor));
-  EXPECT_FALSE(Supports<IMemberEditorCustomHint>(editor));
-  EXPECT_FALSE(Supports<IPropertyEditorDraw>(editor));
-  EXPECT_FALSE(Supports<IEditorMouse>(editor));
+  EXPECT_TRUE(Supports<IPropertyEditorMouse>(editor) && Supports<IPropertyEditorCustomHint>(editor));
+  EXPECT_FALSE(Supports<IMemberEditorMouse>(editor) || Supports<IMemberEditorCustomHint>(editor));
+  EXPECT_FALSE(Supports<IPropertyEditorDraw>(editor) || Supports<IEditorMouse>(editor));
 }
 
 } // namespace
