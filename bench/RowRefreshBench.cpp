@@ -11,6 +11,7 @@
 #include "host/headless/HostDesigner.h"
 #include "host/headless/RowModel.h"
 #include "package/PackageEntry.h"
+#include "reflection/RttiTypes.h"
 #include "rtl/Module.h"
 #include "runtime/Shape.h"
 
@@ -74,9 +75,12 @@ void BM_RegistryLookup(benchmark::State& AState) {
   // A float, a name, an enumeration and a class-valued member of a filter; a generator's event;
   // a hidden member of a control and an ordinary one.
   const std::vector<std::pair<TObject*, TRef<IMemberInfo>>> members = {
-      {filter, MemberOf(filter, "Cutoff")},    {filter, MemberOf(filter, "Name")},
-      {filter, MemberOf(filter, "Kind")},      {filter, MemberOf(filter, "Font")},
-      {generator.get(), MemberOf(generator.get(), "OnStart")},  {shape.get(), MemberOf(shape.get(), "Left")},
+      {filter, MemberOf(filter, "Cutoff")},
+      {filter, MemberOf(filter, "Name")},
+      {filter, MemberOf(filter, "Kind")},
+      {filter, MemberOf(filter, "Font")},
+      {generator.get(), MemberOf(generator.get(), "OnStart")},
+      {shape.get(), MemberOf(shape.get(), "Left")},
       {shape.get(), MemberOf(shape.get(), "Shape")}};
   for (const auto& [object, member] : members)
     if (!member) AState.SkipWithError("a member of the benchmark is missing");
@@ -106,8 +110,9 @@ void BM_ReflectionBaseline(benchmark::State& AState) {
   inspector.Refresh();
   std::vector<TRef<ISinglePropertyInfo>> members;
   for (const TInspectorRow& row : inspector.Rows())
-    if (TRef<ISinglePropertyInfo> member; Supports<IPropertyEditor>(row.Editor) &&
-                                          TRttiObjectHelper::TypeInfo(Design().First(), false)->FindSinglePropertyMember(row.Name, member))
+    if (TRef<ISinglePropertyInfo> member;
+        Supports<IPropertyEditor>(row.Editor) &&
+        TRttiObjectHelper::TypeInfo(Design().First(), false)->FindSinglePropertyMember(row.Name, member))
       members.push_back(member);
   const TRef<IObjectArrayList> selection = designer->GetSelection();
   for (auto _ : AState)

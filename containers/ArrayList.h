@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // TArrayList<T>: one contiguous array behind IArrayList<T>.
 
 #include <algorithm>
@@ -7,18 +8,17 @@
 
 namespace Tarvo {
 
-template <class T>
-class TArrayList : public TListCommon<T, IArrayList<T>, TArrayList<T>> {
+template <class T> class TArrayList : public TListCommon<T, IArrayList<T>, TArrayList<T>> {
   using TBase = TListCommon<T, IArrayList<T>, TArrayList<T>>;
 
 public:
-  using typename TBase::TPredicate;
-  using typename TBase::TSelf;
   using TBase::Append;
   using TBase::CreateEnumerator;
   using TBase::FindAndRemoveOne;
   using TBase::RemoveAll;
   using TBase::RemoveOne;
+  using typename TBase::TPredicate;
+  using typename TBase::TSelf;
 
   static TSelf CreateCopy(const TRef<IArrayList<T>>& AOther) {
     TARVO_ASSERT(AOther != nullptr);
@@ -31,7 +31,8 @@ public:
   // The enumerators read through raw pointers to keep a walk free of allocations per element;
   // they do not keep the list alive.
   TRef<IEnumerator<T>> GetEnumerator() override {
-    return New<TBasicListEnumerator<T>>([this] { return GetCount(); }, [this](Integer AIndex) { return GetItem(AIndex); });
+    return New<TBasicListEnumerator<T>>([this] { return GetCount(); },
+                                        [this](Integer AIndex) { return GetItem(AIndex); });
   }
   TRef<IEnumerator<T>> GetReverseEnumerator() override { return GetReverse()->GetEnumerator(); }
   TRef<IReverseEnumeratorHost<T>> GetReverse() override {
@@ -208,3 +209,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

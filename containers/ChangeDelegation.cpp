@@ -32,7 +32,8 @@ void TDelegatingChangeNotifyObject::DelegateNotifyObject(TObject* AObject) {
   TInterfacedChangeNotifyItem item;
   item.Object = AObject;
   item.ChangeHandler = notification->AddChangeHandler([this] { ChangeNotify(); });
-  item.DestructionHandler = notification->AddDestructionHandler([this, AObject] { InternalRemoveNotification(AObject); });
+  item.DestructionHandler =
+      notification->AddDestructionHandler([this, AObject] { InternalRemoveNotification(AObject); });
   FDelegatedNotications->Add(item);
 }
 

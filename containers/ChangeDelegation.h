@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // A container that, while someone listens to it, listens to its elements: a change in an element
 // is a change of the container. The subscriptions are kept per element object; only finding the
 // object of an element depends on the element type.
@@ -9,8 +10,9 @@ namespace Tarvo {
 
 // Class and interface elements can be asked for change notification.
 template <class T>
-concept CObjectElement = (std::is_pointer_v<T> && std::is_convertible_v<T, TObject*>) ||
-                         requires(const T& AItem) { ObjectOf(AItem); };
+concept CObjectElement = (std::is_pointer_v<T> && std::is_convertible_v<T, TObject*>) || requires(const T& AItem) {
+  ObjectOf(AItem);
+};
 
 template <class T> TObject* ElementObject(const T& AItem) {
   if constexpr (std::is_pointer_v<T>) return AItem;
@@ -56,3 +58,5 @@ protected:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The shapes shared by every container: function types, comparers, enumerators, enumerables and
 // change notification. One GUID stands for a generic interface across its element types, so a
 // query by GUID tells the shape of a container, not its element type.
@@ -40,7 +41,7 @@ template <class T> using TComparison = std::function<int(const T&, const T&)>;
 // ---- Comparers ----
 
 template <class T> class IComparer : public virtual IInterface {
-  TARVO_INTERFACE(IComparer, IInterface, "{6F5C2B0E-3C39-4D2F-9B52-2C5E3A8B7A11}")
+  TARVO_INTERFACE(IComparer, "{6F5C2B0E-3C39-4D2F-9B52-2C5E3A8B7A11}", IInterface)
 public:
   virtual int Compare(const T& ALeft, const T& ARight) = 0;
 };
@@ -48,9 +49,11 @@ public:
 // Element types with a default order: numbers, strings, pointers, interfaces, values and
 // whatever has an operator<.
 template <class T>
-concept CDefaultOrdered = std::is_same_v<T, TValue> || std::is_pointer_v<T> ||
-                          requires(const T& A) { InterfaceIdentity(A.get()); } ||
-                          requires(const T& A, const T& B) { A < B; };
+concept CDefaultOrdered = std::is_same_v<T, TValue> || std::is_pointer_v<T> || requires(const T& A) {
+  InterfaceIdentity(A.get());
+} || requires(const T& A, const T& B) {
+  A < B;
+};
 
 // Ordinal order for numbers and strings, identity for objects, interfaces and class references,
 // and the text for values.
@@ -84,7 +87,8 @@ private:
 template <class T> TRef<IComparer<T>> DefaultComparer() {
   static const TRef<IComparer<T>> comparer = [] {
     if constexpr (CDefaultOrdered<T>) return TRef<IComparer<T>>(New<TDelegatedComparer<T>>(&DefaultCompare<T>));
-    else return TRef<IComparer<T>>(New<TDelegatedComparer<T>>([](const T&, const T&) -> int { RaiseNoDefaultOrder(); }));
+    else
+      return TRef<IComparer<T>>(New<TDelegatedComparer<T>>([](const T&, const T&) -> int { RaiseNoDefaultOrder(); }));
   }();
   return comparer;
 }
@@ -92,7 +96,7 @@ template <class T> TRef<IComparer<T>> DefaultComparer() {
 // ---- Enumerators ----
 
 template <class T> class IEnumerator : public virtual IInterface {
-  TARVO_INTERFACE(IEnumerator, IInterface, "{1E1D4B7C-5A43-4F6E-8E0B-7D2C9F3A6B21}")
+  TARVO_INTERFACE(IEnumerator, "{1E1D4B7C-5A43-4F6E-8E0B-7D2C9F3A6B21}", IInterface)
 public:
   virtual void Reset() = 0;
   virtual bool MoveNext() = 0;
@@ -129,7 +133,7 @@ private:
 };
 
 template <class T> class IEnumerable : public virtual IInterface {
-  TARVO_INTERFACE(IEnumerable, IInterface, "{CAFEC3AE-090E-4135-849E-B39A213C7231}")
+  TARVO_INTERFACE(IEnumerable, "{CAFEC3AE-090E-4135-849E-B39A213C7231}", IInterface)
 public:
   virtual TRef<IEnumerator<T>> GetEnumerator() = 0;
 
@@ -138,7 +142,7 @@ public:
 };
 
 template <class T> class IReverseEnumeratorHost : public virtual IInterface {
-  TARVO_INTERFACE(IReverseEnumeratorHost, IInterface, "{C6AAC7EC-5F44-41D0-BF9C-D2BE9BF7B351}")
+  TARVO_INTERFACE(IReverseEnumeratorHost, "{C6AAC7EC-5F44-41D0-BF9C-D2BE9BF7B351}", IInterface)
 public:
   virtual TRef<IEnumerator<T>> GetEnumerator() = 0;
 
@@ -147,7 +151,7 @@ public:
 };
 
 template <class T> class IReverseEnumerable : public virtual IEnumerable<T> {
-  TARVO_INTERFACE(IReverseEnumerable, IEnumerable<T>, "{D95A8112-779C-4B45-BE62-BA12D4E6D28F}")
+  TARVO_INTERFACE(IReverseEnumerable, "{D95A8112-779C-4B45-BE62-BA12D4E6D28F}", IEnumerable<T>)
 public:
   virtual TRef<IEnumerator<T>> GetReverseEnumerator() = 0;
 };
@@ -163,7 +167,7 @@ template <class I> auto end(const TRef<I>& AEnumerable) { return AEnumerable->en
 using TNotifyHandler = std::shared_ptr<const TProc<>>;
 
 class IChangeNotification : public virtual IInterface {
-  TARVO_INTERFACE(IChangeNotification, IInterface, "{8B0B6D2A-4C1E-4F7B-9E3D-5A2F6C8D1E47}")
+  TARVO_INTERFACE(IChangeNotification, "{8B0B6D2A-4C1E-4F7B-9E3D-5A2F6C8D1E47}", IInterface)
 public:
   virtual TNotifyHandler AddChangeHandler(TProc<> AHandler) = 0;
   virtual void RemoveChangeHandler(const TNotifyHandler& AHandler) = 0;
@@ -200,3 +204,5 @@ struct TInterfacedChangeNotifyItem {
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Enumerators over things that are no containers: the children of a component, read through a
 // count function and an item function, flat or through the whole subtree, forward or reverse;
 // and a filter that passes on only the elements a predicate accepts.
@@ -143,8 +144,9 @@ public:
 // ACreateCollection.
 template <class Q, class C, class T>
 TRef<IContainerQuery<Q, C, T>> CreateComponentQuery(Q ARoot, TFunc<T, Integer> AGetCount, TFunc<T, Integer, T> AGetItem,
-                                                    Boolean ARecursive, Boolean AReverse, TConstFunc<T, Boolean> AFilter,
-                                                    TFunc<C> ACreateCollection, TProc<C, T> AAddToCollection) {
+                                                    Boolean ARecursive, Boolean AReverse,
+                                                    TConstFunc<T, Boolean> AFilter, TFunc<C> ACreateCollection,
+                                                    TProc<C, T> AAddToCollection) {
   TARVO_ASSERT(AGetCount != nullptr);
   TARVO_ASSERT(AGetItem != nullptr);
   TARVO_ASSERT(AFilter != nullptr);
@@ -162,3 +164,5 @@ TRef<IContainerQuery<Q, C, T>> CreateComponentQuery(Q ARoot, TFunc<T, Integer> A
 }
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The dictionary container: a hash dictionary behind an interface, with the fluent operations of
 // the lists and a query over its pairs.
 
@@ -28,13 +29,11 @@ template <class K, class V> struct TPair {
 inline constexpr const char* EmptyInterfaceGUID = "{00000000-0000-0000-0000-000000000000}";
 
 template <class K, class V> class IPairCollection : public virtual IEnumerable<TPair<K, V>> {
-  using TPairs = IEnumerable<TPair<K, V>>; // the macro takes no commas
-  TARVO_INTERFACE(IPairCollection, TPairs, EmptyInterfaceGUID)
+  TARVO_INTERFACE(IPairCollection, EmptyInterfaceGUID, IEnumerable<TPair<K, V>>)
 };
 
 template <class K, class V> class IDictionary : public virtual IPairCollection<K, V> {
-  using TPairs = IPairCollection<K, V>;
-  TARVO_INTERFACE(IDictionary, TPairs, EmptyInterfaceGUID)
+  TARVO_INTERFACE(IDictionary, EmptyInterfaceGUID, IPairCollection<K, V>)
 public:
   using TSelf = TRef<IDictionary>;
   using TPairQuery = TRef<IContainerQuery<TSelf, TSelf, TPair<K, V>>>;
@@ -67,8 +66,7 @@ public:
   virtual void SetItem(const K& AKey, const V& AValue) = 0;
 };
 
-template <class K, class V>
-class TDictionary : public TImplements<TInterfacedChangeNotifyObject, IDictionary<K, V>> {
+template <class K, class V> class TDictionary : public TImplements<TInterfacedChangeNotifyObject, IDictionary<K, V>> {
   using TIntf = IDictionary<K, V>;
   using TSelf = typename TIntf::TSelf;
 
@@ -202,7 +200,9 @@ private:
   // rather than with a stale position. Values may change freely.
   class TPairEnumerator : public TBasicEnumerator<TPair<K, V>> {
   public:
-    explicit TPairEnumerator(TRef<TDictionary> ADictionary) : FOwner(std::move(ADictionary)) { TPairEnumerator::Reset(); }
+    explicit TPairEnumerator(TRef<TDictionary> ADictionary) : FOwner(std::move(ADictionary)) {
+      TPairEnumerator::Reset();
+    }
 
     void Reset() override {
       FVersion = FOwner->FVersion;
@@ -213,8 +213,7 @@ private:
       if (!FStarted) {
         FCurrent = FOwner->FDictionary.begin();
         FStarted = true;
-      } else if (FCurrent != FOwner->FDictionary.end())
-        ++FCurrent;
+      } else if (FCurrent != FOwner->FDictionary.end()) ++FCurrent;
       return FCurrent != FOwner->FDictionary.end();
     }
     TPair<K, V> GenericGetCurrent() override {
@@ -251,3 +250,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

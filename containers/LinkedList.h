@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // TLinkedList<T>: a singly linked list behind ILinkedList<T>, with deletion deferred while it is
 // being walked.
 
@@ -10,8 +11,7 @@ namespace Tarvo {
 // stays linked, and the last enumerator to go unlinks the flagged nodes. The count does not fall
 // for a node removed that way. Operations other than the walk see flagged nodes like any other,
 // so PopFirst during a walk finds the same first node again.
-template <class T>
-class TLinkedList final : public TListCommon<T, ILinkedList<T>, TLinkedList<T>> {
+template <class T> class TLinkedList final : public TListCommon<T, ILinkedList<T>, TLinkedList<T>> {
   using TBase = TListCommon<T, ILinkedList<T>, TLinkedList<T>>;
   struct TNode;
   // The link comes first in a node, so a node doubles as the link to its successor and a walk
@@ -25,13 +25,13 @@ class TLinkedList final : public TListCommon<T, ILinkedList<T>, TLinkedList<T>> 
   };
 
 public:
-  using typename TBase::TPredicate;
-  using typename TBase::TSelf;
   using TBase::Append;
   using TBase::CreateEnumerator;
   using TBase::FindAndRemoveOne;
   using TBase::RemoveAll;
   using TBase::RemoveOne;
+  using typename TBase::TPredicate;
+  using typename TBase::TSelf;
 
   ~TLinkedList() override {
     while (TNode* node = FFirst) {
@@ -112,7 +112,6 @@ public:
     if (!FLast) FLast = node;
     return Entered(node);
   }
-
 
   Boolean FindAndRemoveOne(const TPredicate& ACompareFunc, T& AItem) override {
     TNode* previous = nullptr;
@@ -290,3 +289,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

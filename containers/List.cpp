@@ -9,7 +9,8 @@ void RaiseListIndexError(Integer AIndex) {
 }
 
 void RaiseListRangeError(Integer AIndex, Integer ACount) {
-  throw EListError("List range out of bounds (index " + std::to_string(AIndex) + ", count " + std::to_string(ACount) + ")");
+  throw EListError("List range out of bounds (index " + std::to_string(AIndex) + ", count " + std::to_string(ACount) +
+                   ")");
 }
 
 template class TArrayList<TObject*>;

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The list containers and their two named instantiations: IObjectArrayList, the list of objects
 // that stands for a selection, and IStringArrayList.
 
@@ -18,3 +19,5 @@ extern template class TArrayList<String>;
 extern template class TLinkedList<TInterfacedChangeNotifyItem>;
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // What the array list and the linked list share: the forms that each list expresses through its
 // own primitives, the untyped IList face, and the default comparer.
 
@@ -26,7 +27,9 @@ public:
   }
 
   // IList
-  TRef<IEnumerator<TValue>> GetValueEnumerator() override { return New<TGenricValueEnumerator<T>>(this->GetEnumerator()); }
+  TRef<IEnumerator<TValue>> GetValueEnumerator() override {
+    return New<TGenricValueEnumerator<T>>(this->GetEnumerator());
+  }
   TValue GetNewValue() override { return ElementToValue<T>(T{}); }
   void AddValue(const TValue& AValue) override { this->Add(ElementFromValue<T>(AValue)); }
 
@@ -85,3 +88,5 @@ protected:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

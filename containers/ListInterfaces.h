@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The list interfaces: IArrayList<T> with indexed access and a reverse walk, ILinkedList<T>
 // without either, and IList, their untyped face.
 //
@@ -14,7 +15,7 @@ namespace Tarvo {
 
 // The door for code that knows no element type: serialisers, collection editors.
 class IList : public virtual IInterface {
-  TARVO_INTERFACE(IList, IInterface, "{EEFAD71F-D914-4F0B-A092-DBE8223F48CA}")
+  TARVO_INTERFACE(IList, "{EEFAD71F-D914-4F0B-A092-DBE8223F48CA}", IInterface)
 public:
   virtual TRef<IEnumerator<TValue>> GetValueEnumerator() = 0;
   virtual void ClearValues() = 0;
@@ -25,7 +26,7 @@ public:
 };
 
 template <class T> class IArrayList : public virtual IReverseEnumerable<T> {
-  TARVO_INTERFACE(IArrayList, IReverseEnumerable<T>, "{B15CDC27-7A72-49FC-A4C4-FC8F6B74D246}")
+  TARVO_INTERFACE(IArrayList, "{B15CDC27-7A72-49FC-A4C4-FC8F6B74D246}", IReverseEnumerable<T>)
 public:
   using TSelf = TRef<IArrayList<T>>;
   using TPredicate = TConstFunc<T, Boolean>;
@@ -74,7 +75,7 @@ public:
 };
 
 template <class T> class ILinkedList : public virtual IEnumerable<T> {
-  TARVO_INTERFACE(ILinkedList, IEnumerable<T>, "{755EACF6-A7BC-4EA5-AF72-A6FC7D7155C2}")
+  TARVO_INTERFACE(ILinkedList, "{755EACF6-A7BC-4EA5-AF72-A6FC7D7155C2}", IEnumerable<T>)
 public:
   using TSelf = TRef<ILinkedList<T>>;
   using TPredicate = TConstFunc<T, Boolean>;
@@ -118,3 +119,5 @@ public:
 [[noreturn]] void RaiseListRangeError(Integer AIndex, Integer ACount);
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

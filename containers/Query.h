@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The query chain: a small object that walks any enumerable source and answers questions about
 // it. Every run asks the factory for a fresh enumerator, so a query made once can be run any
 // number of times and always sees the source as it stands then. Filter, Skip and Take are eager:
@@ -13,7 +14,7 @@
 namespace Tarvo {
 
 template <class T> class IQuery : public virtual IInterface {
-  TARVO_INTERFACE(IQuery, IInterface, "{B6ABA8F6-C80C-48D5-B08C-4C0C10F2FA54}")
+  TARVO_INTERFACE(IQuery, "{B6ABA8F6-C80C-48D5-B08C-4C0C10F2FA54}", IInterface)
 public:
   // Walks both in step; without AEqual the comparer decides, non-zero meaning unequal.
   virtual Boolean Equals(const TRef<IEnumerable<T>>& AOther, TConstFunc<T, T, Boolean> AEqual = nullptr) = 0;
@@ -34,7 +35,7 @@ public:
 };
 
 template <class C, class T> class IBasicContainerQuery : public virtual IQuery<T> {
-  TARVO_INTERFACE(IBasicContainerQuery, IQuery<T>, "{3243BF2F-8493-442B-B77A-6B4CDD696276}")
+  TARVO_INTERFACE(IBasicContainerQuery, "{3243BF2F-8493-442B-B77A-6B4CDD696276}", IQuery<T>)
 public:
   virtual C Filter(TConstFunc<T, Boolean> APredicate) = 0;
   // A count of zero or less skips nothing.
@@ -59,7 +60,7 @@ private:
 
 template <class Q, class C, class T> class IContainerQuery : public virtual IBasicContainerQuery<C, T> {
   using TBasicQuery = IBasicContainerQuery<C, T>; // the macro takes no commas
-  TARVO_INTERFACE(IContainerQuery, TBasicQuery, "{6F2946A8-F9C1-4FEE-91B2-83E5F6D5E8ED}")
+  TARVO_INTERFACE(IContainerQuery, "{6F2946A8-F9C1-4FEE-91B2-83E5F6D5E8ED}", TBasicQuery)
 public:
   // The fluent Find forms hide the Boolean ones of IQuery<T>. A virtual function cannot differ
   // from the one it overrides by its result alone, so these are templates (which never override)
@@ -199,8 +200,7 @@ private:
 
 // Q is what the query was made from and what its fluent operations hand back; C is the kind of
 // collection that Filter, Skip and Take fill. They differ when the source is no container.
-template <class Q, class C, class T>
-class TContainerQuery : public TImplements<TQuery<T>, IContainerQuery<Q, C, T>> {
+template <class Q, class C, class T> class TContainerQuery : public TImplements<TQuery<T>, IContainerQuery<Q, C, T>> {
   using TBase = TImplements<TQuery<T>, IContainerQuery<Q, C, T>>;
 
 public:
@@ -298,3 +298,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

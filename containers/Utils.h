@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Enumerators over anything that can tell a count and an item by index, the untyped value
 // enumerator behind IList, and the hosts that hand out back-to-front walks.
 
@@ -8,7 +9,10 @@ namespace Tarvo {
 
 // ---- Elements as values ----
 
-template <class T> concept CHasTypeRecord = requires { TTypeRecordOf<std::remove_cvref_t<T>>::Get(); };
+template <class T>
+concept CHasTypeRecord = requires {
+  TTypeRecordOf<std::remove_cvref_t<T>>::Get();
+};
 
 // An element as a TValue of its type. Element types without a type record (plain records)
 // have no value form and raise EInvalidCast.
@@ -110,3 +114,5 @@ public:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

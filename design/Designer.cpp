@@ -1,5 +1,7 @@
 #include "design/Designer.h"
 
+#include "reflection/ClassNames.h"
+
 namespace Tarvo {
 
 namespace {
@@ -36,7 +38,9 @@ void TDesigner::SetSelection(std::span<TObject* const> ASelection) {
   SetSelection(TObjectArrayList::CreateArray({ASelection.begin(), ASelection.end()}));
 }
 
-void TDesigner::AddSelectionChangeNotify(const TRef<ISelectionChange>& ANotify) { FSelecttionNotifications->Add(ANotify); }
+void TDesigner::AddSelectionChangeNotify(const TRef<ISelectionChange>& ANotify) {
+  FSelecttionNotifications->Add(ANotify);
+}
 
 void TDesigner::RemoveSelectionChangeNotify(const TRef<ISelectionChange>& ANotify) {
   FSelecttionNotifications->RemoveOne(ANotify);
@@ -54,8 +58,8 @@ void TDesigner::Modified() {
 // The helper puts the designing and loading state in place before the constructors run, which
 // look at it.
 TComponent* TDesigner::CreateComponent(const TRef<IClassTypeInfo>& AClass, Boolean ALoading) {
-  TComponent* const result =
-      TComponentHelper::CreateComponent(TComponentClass(AClass->GetClass()), GetEditRoot(), GetInDesignMode(), ALoading);
+  TComponent* const result = TComponentHelper::CreateComponent(TComponentClass(AClass->GetClass()), GetEditRoot(),
+                                                               GetInDesignMode(), ALoading);
   // A component that can't be prepared or named would stay nameless in the edit root.
   try {
     if (TRef<IDynamicTypeInfo> dynamic; Supports(AClass, dynamic)) dynamic->InitInstance(result);
@@ -79,9 +83,9 @@ TNestedDesigner::TNestedDesigner(TRef<IDesigner> ANestedDesigner, TObject* AObje
 TSelectionChangeNotifier::TSelectionChangeNotifier(TProc<> AOnSelectionChangingBegin, TProc<> AOnSelectionChanged,
                                                    TProc<> AOnModified, TProc<> AOnRefreshView,
                                                    TProc<> AOnResetObjectInspector)
-    : FOnSelectionChangingBegin(std::move(AOnSelectionChangingBegin)), FOnSelectionChanged(std::move(AOnSelectionChanged)),
-      FOnModified(std::move(AOnModified)), FOnRefreshView(std::move(AOnRefreshView)),
-      FOnResetObjectInspector(std::move(AOnResetObjectInspector)) {}
+    : FOnSelectionChangingBegin(std::move(AOnSelectionChangingBegin)),
+      FOnSelectionChanged(std::move(AOnSelectionChanged)), FOnModified(std::move(AOnModified)),
+      FOnRefreshView(std::move(AOnRefreshView)), FOnResetObjectInspector(std::move(AOnResetObjectInspector)) {}
 
 TRef<TSelectionChangeNotifier> TSelectionChangeNotifier::SetOnSelectionChangingBegin(TProc<> AProc) {
   FOnSelectionChangingBegin = std::move(AProc);

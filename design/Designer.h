@@ -8,14 +8,14 @@
 #include <type_traits>
 
 #include "containers/List.h"
-#include "design/reflection/DesignComponents.h"
-#include "design/reflection/TypeInfo.h"
+#include "reflection/BasicDesigner.h"
+#include "reflection/TypeInfo.h"
 #include "runtime/Component.h"
 
 namespace Tarvo {
 
-class ISelectionChange : public virtual IInterface {
-  TARVO_INTERFACE(ISelectionChange, IInterface, "{ED64C9B5-2992-4CB4-9DB9-B3D6303627A9}")
+class TARVO_API ISelectionChange : public virtual IInterface {
+  TARVO_INTERFACE(ISelectionChange, "{ED64C9B5-2992-4CB4-9DB9-B3D6303627A9}", IInterface)
 public:
   virtual void SelectionChangingBegin() = 0;
   virtual void SelectionChanged() = 0;
@@ -32,16 +32,16 @@ public:
 };
 
 // The setters return the notifier, so that they chain.
-class ISelectionChangeNotifier : public virtual ISelectionChange {
-  TARVO_INTERFACE(ISelectionChangeNotifier, ISelectionChange, "{D3085545-D1C4-4D4C-9963-01E9B834A268}")
+class TARVO_API ISelectionChangeNotifier : public virtual ISelectionChange {
+  TARVO_INTERFACE(ISelectionChangeNotifier, "{D3085545-D1C4-4D4C-9963-01E9B834A268}", ISelectionChange)
 public:
   virtual TRef<ISelectionChangeNotifier> SetOnSelectionChanged(TProc<> AProc) = 0;
   virtual TRef<ISelectionChangeNotifier> SetOnModified(TProc<> AProc) = 0;
   virtual TRef<ISelectionChangeNotifier> SetOnRefreshView(TProc<> AProc) = 0;
 };
 
-class IDesigner : public virtual IBasicDesigner {
-  TARVO_INTERFACE(IDesigner, IBasicDesigner, "{2D285DB6-EA44-41B9-8D6B-BD111CB10A31}")
+class TARVO_API IDesigner : public virtual IBasicDesigner {
+  TARVO_INTERFACE(IDesigner, "{2D285DB6-EA44-41B9-8D6B-BD111CB10A31}", IBasicDesigner)
 public:
   virtual void BeginUpdate() = 0;
   virtual void EndUpdate() = 0;
@@ -65,7 +65,7 @@ public:
 
 // While an update bracket is open, the notices are dropped, not queued; the end of the
 // outermost bracket sends SelectionChanged alone.
-class TDesigner : public TImplements<TInterfacedObject, IDesigner> {
+class TARVO_API TDesigner : public TImplements<TInterfacedObject, IDesigner> {
 protected:
   virtual Boolean GetInDesignMode() { return true; }
   // ANotify is kept for subclasses; the change test alone decides.
@@ -120,7 +120,7 @@ private:
 };
 
 // An editor of a nested object works on that object alone and can't move the outer selection.
-class TNestedDesigner : public TImplements<TInterfacedObject, IDesigner> {
+class TARVO_API TNestedDesigner : public TImplements<TInterfacedObject, IDesigner> {
 public:
   // AObject is not owned; it must outlive the designer.
   TNestedDesigner(TRef<IDesigner> ANestedDesigner, TObject* AObject);
@@ -158,7 +158,7 @@ private:
 };
 
 // The procedures don't receive the item or binding; an unassigned one is skipped.
-class TSelectionChangeNotifier : public TImplements<TInterfacedObject, ISelectionChangeNotifier> {
+class TARVO_API TSelectionChangeNotifier : public TImplements<TInterfacedObject, ISelectionChangeNotifier> {
 public:
   TSelectionChangeNotifier() = default;
   TSelectionChangeNotifier(TProc<> AOnSelectionChangingBegin, TProc<> AOnSelectionChanged, TProc<> AOnModified,

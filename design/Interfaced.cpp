@@ -4,7 +4,9 @@ namespace Tarvo {
 
 TARVO_IMPLEMENT_CLASS(TInterfaced)
 
-HRESULT TInterfaced::QueryInterface(const TGUID& AIID, void** AObj) { return QueryRootInterface(this, this, AIID, AObj); }
+HRESULT TInterfaced::QueryInterface(const TGUID& AIID, void** AObj) {
+  return QueryRootInterface(this, this, AIID, AObj);
+}
 
 int TInterfaced::_AddRef() { return ++FRefCount; }
 

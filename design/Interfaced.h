@@ -6,12 +6,13 @@
 
 #include <atomic>
 
-#include "design/reflection/TypeInfo.h"
+#include "reflection/RttiTypes.h"
+#include "reflection/TypeInfo.h"
 #include "rtl/InterfacedObject.h"
 
 namespace Tarvo {
 
-class TInterfaced : public TObject, public virtual IInterface {
+class TARVO_API TInterfaced : public TObject, public virtual IInterface {
   TARVO_CLASS(TInterfaced, TObject)
 
 public:
@@ -21,7 +22,9 @@ public:
   int _Release() override;
   bool GetInterface(const TGUID& AIID, void** AObj) override { return QueryInterface(AIID, AObj) == S_OK; }
 
-  TRef<IClassTypeInfo> TypeInfo(bool AIncludeDynamicTypeInfo) { return TRttiObjectHelper::TypeInfo(this, AIncludeDynamicTypeInfo); }
+  TRef<IClassTypeInfo> TypeInfo(bool AIncludeDynamicTypeInfo) {
+    return TRttiObjectHelper::TypeInfo(this, AIncludeDynamicTypeInfo);
+  }
   TRef<IClassTypeInfo> ClassTypeInfo() const { return TRttiObjectHelper::ClassTypeInfo(ClassType()); }
   int RefCount() const { return FRefCount.load(std::memory_order_relaxed); }
 

@@ -1,13 +1,12 @@
 #include "design/MemberEditor.h"
 
 #include "design/SinglePropertyEditor.h"
+#include "reflection/RowAttributes.h"
+#include "reflection/RttiTypes.h"
 
 namespace Tarvo {
 
 TARVO_IMPLEMENT_CLASS(TMemberEditor)
-TARVO_IMPLEMENT_CLASS(THiddenEditor)
-TARVO_IMPLEMENT_CLASS(TMethodEditor)
-TARVO_IMPLEMENT_CLASS(TEventPropertyEditor)
 
 TMemberEditor::TMemberEditor(TObject* AOwnerObject, TMemberEditor* AParentEditor, TRef<IDesigner> ADesigner,
                              TRef<IMemberInfo> ASharedMember, String AMemberName, TRef<IMemberInfo> AFirstMember)
@@ -30,7 +29,9 @@ String TMemberEditor::GetDisplayName() {
   return member->GetDisplayName();
 }
 
-TRef<IMemberInfo> TMemberEditor::GetFirstMember() { return FFirstMember ? FFirstMember : GetMembers(nullptr)->GetItem(0); }
+TRef<IMemberInfo> TMemberEditor::GetFirstMember() {
+  return FFirstMember ? FFirstMember : GetMembers(nullptr)->GetItem(0);
+}
 
 TRef<IMemberInfoList> TMemberEditor::GetMembers(const TRef<IObjectArrayList>& AObjectsList) {
   if (FMemberInfos) return FMemberInfos;
@@ -38,11 +39,14 @@ TRef<IMemberInfoList> TMemberEditor::GetMembers(const TRef<IObjectArrayList>& AO
   for (TObject* object : GetOwnerObjects(AObjectsList)) {
     TRef<IValueMemberInfo> found;
     if (FSharedMember) FMemberInfos->Add(FSharedMember);
-    else if (object && TRttiObjectHelper::TypeInfo(object, true)->FindMember(FMemberName, found)) FMemberInfos->Add(found);
+    else if (object && TRttiObjectHelper::TypeInfo(object, true)->FindMember(FMemberName, found))
+      FMemberInfos->Add(found);
     else if (FFirstMember) FMemberInfos->Add(FFirstMember);
-    else if (TRef<IMembersInfo> subMembers; FParentEditor && !FMemberName.empty() && FParentEditor->GetSubMembers(subMembers, false)) {
+    else if (TRef<IMembersInfo> subMembers;
+             FParentEditor && !FMemberName.empty() && FParentEditor->GetSubMembers(subMembers, false)) {
       TRef<IMemberInfo> match;
-      if (subMembers->Query()->Find([this](const TRef<IMemberInfo>& AMember) { return AMember->GetName() == FMemberName; }, match))
+      if (subMembers->Query()->Find(
+              [this](const TRef<IMemberInfo>& AMember) { return AMember->GetName() == FMemberName; }, match))
         FMemberInfos->Add(match);
     }
   }
@@ -66,7 +70,8 @@ TObject* TMemberEditor::GetOwnerObject() {
     if (!FParentEditor->Is<TSinglePropertyEditor>())
       throw EInvalidCast(String("Invalid class typecast: the parent editor ") + FParentEditor->ClassName() +
                          " is no single property editor");
-    const TRef<IArrayList<TValue>> values = static_cast<TSinglePropertyEditor*>(FParentEditor)->GetInstanceValues(nullptr);
+    const TRef<IArrayList<TValue>> values =
+        static_cast<TSinglePropertyEditor*>(FParentEditor)->GetInstanceValues(nullptr);
     return values->GetCount() > 0 ? values->GetItem(0).AsObject() : nullptr;
   }
   const TRef<IObjectArrayList> selection = FDesigner->GetSelection();
@@ -80,18 +85,6 @@ TRef<IObjectArrayList> TMemberEditor::GetOwnerObjects(const TRef<IObjectArrayLis
   if (!FParentEditor) return selection;
   const TRef<IObjectArrayList> result = New<TObjectArrayList>();
   for (TObject* object : selection) result->Add(FParentEditor->GetValueForRootInstance(object));
-  return result;
-}
-
-String TMethodEditor::GetFunctionParamString() {
-  TRef<IMethodInfo> method;
-  Supports(GetFirstMember(), method);
-  if (!method->GetHasExtendedInfo()) return "(?\?\?)"; // escaped: not a trigraph
-  String parameters;
-  for (const TRef<IParameterInfo>& parameter : method->GetParameters())
-    parameters += (parameters.empty() ? "" : "; ") + parameter->GetParameterText();
-  String result = "(" + parameters + ")";
-  if (method->GetMethodKind() == mkFunction) result += " : " + method->GetTypeInfo()->GetName();
   return result;
 }
 

@@ -21,8 +21,8 @@ struct TIsDefaultByStrored {
 
 using IMemberInfoList = IArrayList<TRef<IMemberInfo>>;
 
-class IMemberEditor : public virtual IInterface {
-  TARVO_INTERFACE(IMemberEditor, IInterface, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A61}")
+class TARVO_API IMemberEditor : public virtual IInterface {
+  TARVO_INTERFACE(IMemberEditor, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A61}", IInterface)
 public:
   virtual TMemberEditor* GetInstance() = 0;
   virtual String GetEditorName() = 0;
@@ -38,13 +38,13 @@ public:
   virtual TRef<IDesigner> GetDesigner() = 0;
 };
 
-class TMemberEditor : public TImplements<TInterfaced, IMemberEditor> {
+class TARVO_API TMemberEditor : public TImplements<TInterfaced, IMemberEditor> {
   TARVO_CLASS(TMemberEditor, TImplements<TInterfaced, IMemberEditor>)
 
 public:
   // The one virtual constructor of every editor; subclasses declare none of their own.
-  using TConstructor = TConstructorSignature<TObject*, TMemberEditor*, TRef<IDesigner>, TRef<IMemberInfo>, String,
-                                             TRef<IMemberInfo>>;
+  using TConstructor =
+      TConstructorSignature<TObject*, TMemberEditor*, TRef<IDesigner>, TRef<IMemberInfo>, String, TRef<IMemberInfo>>;
   TMemberEditor(TObject* AOwnerObject, TMemberEditor* AParentEditor, TRef<IDesigner> ADesigner,
                 TRef<IMemberInfo> ASharedMember, String AMemberName, TRef<IMemberInfo> AFirstMember);
 
@@ -85,44 +85,11 @@ protected:
 
 using TMemberEditorClass = TClassOf<TMemberEditor>;
 
-// A member that stays out of the grid.
-class THiddenEditor : public TMemberEditor {
-  TARVO_CLASS(THiddenEditor, TMemberEditor)
-public:
-  using TMemberEditor::TMemberEditor;
-  Boolean GetIsVisible() override { return false; }
-};
-
-class IMethodEditor : public virtual IInterface {
-  TARVO_INTERFACE(IMethodEditor, IInterface, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A62}")
-public:
-  virtual String GetFunctionParamString() = 0;
-};
-
-class TMethodEditor : public TImplements<TMemberEditor, IMethodEditor> {
-  TARVO_CLASS(TMethodEditor, TImplements<TMemberEditor, IMethodEditor>)
-public:
-  using TImplements::TImplements;
-  // "(AName: Type; ...)", with " : Result" for a function, or "(???)" without parameter info.
-  String GetFunctionParamString() override;
-};
-
-// Marks a row as an event; what the host does with it is the host's affair.
-class IEventEditor : public virtual IMemberEditor {
-  TARVO_INTERFACE(IEventEditor, IMemberEditor, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A63}")
-};
-
-class TEventPropertyEditor : public TImplements<TMemberEditor, IEventEditor> {
-  TARVO_CLASS(TEventPropertyEditor, TImplements<TMemberEditor, IEventEditor>)
-public:
-  using TImplements::TImplements;
-};
-
 class IPropertyEditors;
 
 // An editor's row that expands into the listed editors instead of into reflected sub-members.
-class ISubPropertyEditors : public virtual IInterface {
-  TARVO_INTERFACE(ISubPropertyEditors, IInterface, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A64}")
+class TARVO_API ISubPropertyEditors : public virtual IInterface {
+  TARVO_INTERFACE(ISubPropertyEditors, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A64}", IInterface)
 public:
   virtual TRef<IPropertyEditors> GetPropertyEditors() = 0;
 };

@@ -1,7 +1,7 @@
 #include "design/Registry.h"
 
-#include <unordered_set>
-
+#include "reflection/RowAttributes.h"
+#include "reflection/RttiTypes.h"
 #include "rtl/SysUtils.h"
 
 namespace Tarvo {
@@ -51,6 +51,11 @@ void RegisterPropertyEditor(PTypeInfo AMemberType, std::span<const TClass> AOwne
   RegisterPropertyEditor(TTypeInfoHelper::TypeInfo(AMemberType), AOwnerClasses, AMemberName, AEditorClass);
 }
 
+void RegisterPropertyEditors(std::initializer_list<TEditorRegistration> ALines) {
+  for (const TEditorRegistration& line : ALines)
+    RegisterPropertyEditor(line.MemberType, line.OwnerClass, line.MemberName, line.EditorClass);
+}
+
 // ---- Lookup ----
 
 namespace {
@@ -81,9 +86,9 @@ bool IsKind(const TRef<ITypeInfo>& AType, TTypeKind AKind) { return AType && ATy
 
 // Whether entry C applies to the member: type, kinds, owner class, name.
 bool Matches(const TMemberEditorItem& C, const TMemberFacts& AFacts) {
-  const bool typeMatches = AFacts.Handle == C.MemberType->GetHandle() ||
-                           (IsKind(AFacts.Type, tkClass) && IsKind(C.MemberType, tkClass) &&
-                            AFacts.Type->InheritsFrom(C.MemberType, false));
+  const bool typeMatches =
+      AFacts.Handle == C.MemberType->GetHandle() ||
+      (IsKind(AFacts.Type, tkClass) && IsKind(C.MemberType, tkClass) && AFacts.Type->InheritsFrom(C.MemberType, false));
   if (!typeMatches) return false;
   if ((C.Kinds * AFacts.Supported).IsEmpty()) return false; // mkEvent and mkSet never count here
   if (C.OwnerClass && !AFacts.ObjectClass->InheritsFrom(C.OwnerClass)) return false;
@@ -98,14 +103,17 @@ bool Replaces(const TMemberEditorItem& C, const TMemberEditorItem* ABest, const 
   if (!(ABest->MemberType == AFacts.Type) && C.MemberType == AFacts.Type) return true;
   const bool bothClasses = IsKind(C.MemberType, tkClass) && IsKind(ABest->MemberType, tkClass);
   const bool bothInterfaces = IsKind(C.MemberType, tkInterface) && IsKind(ABest->MemberType, tkInterface);
-  if (!(C.MemberType == ABest->MemberType) && (bothClasses || bothInterfaces) && C.MemberType->InheritsFrom(ABest->MemberType, false))
+  if (!(C.MemberType == ABest->MemberType) && (bothClasses || bothInterfaces) &&
+      C.MemberType->InheritsFrom(ABest->MemberType, false))
     return true;
-  return C.OwnerClass && ABest->OwnerClass && C.OwnerClass != ABest->OwnerClass && C.OwnerClass->InheritsFrom(ABest->OwnerClass);
+  return C.OwnerClass && ABest->OwnerClass && C.OwnerClass != ABest->OwnerClass &&
+         C.OwnerClass->InheritsFrom(ABest->OwnerClass);
 }
 
 // A default editor by the member's kind and its type's kind; the entries made never enter the
 // registry.
-void AddFallback(const TRef<IMemberInfo>& AMember, const TMemberFacts& AFacts, const TRef<IMemberEditorItemList>& AResult) {
+void AddFallback(const TRef<IMemberInfo>& AMember, const TMemberFacts& AFacts,
+                 const TRef<IMemberEditorItemList>& AResult) {
   const TMemberVisibility visibility = AMember->GetVisibility();
   if (visibility != mvPublic && visibility != mvPublished) return;
   const auto add = [&](TMemberKinds AKinds, TMemberEditorClass AEditor) {
@@ -167,27 +175,6 @@ bool GetMemberEditorClasses(const TRef<IMemberInfo>& AMember, TObject* AObject,
   if (GetMemberEditorEntries(AMember, AObject, entries))
     for (const TRef<IMemberEditorItem>& entry : entries) AResult->Add(entry->GetInstance()->EditorClass);
   return AResult->GetCount() > 0;
-}
-
-// ---- Hidden members of registered components ----
-
-namespace {
-void VisitHiddenMembers(const TRef<IClassTypeInfo>& AType, std::unordered_set<PTypeInfo>& AVisited) {
-  for (const TRef<IMemberInfo>& member : AType->GetMembers(mvsPublished)) {
-    const TRef<ITypeInfo> type = member->GetTypeInfo();
-    if (!type || !AVisited.insert(type->GetHandle()).second) continue;
-    if (member->HasCustomAttribute(HiddenDesignAttribute::ClassInfo(), true)) {
-      RegisterPropertyEditor(type->GetHandle(), TObject::ClassInfo(), member->GetName(), THiddenEditor::ClassInfo());
-    } else if (TRef<IClassTypeInfo> classType; Supports(type, classType)) {
-      VisitHiddenMembers(classType, AVisited);
-    }
-  }
-}
-} // namespace
-
-void RegisterHiddenMembers(TClass AComponentClass) {
-  std::unordered_set<PTypeInfo> visited;
-  VisitHiddenMembers(TRttiObjectHelper::ClassTypeInfo(AComponentClass), visited);
 }
 
 // ---- Unloading ----

@@ -15,14 +15,14 @@ namespace Tarvo {
 
 class TMemberEditorItem;
 
-class IMemberEditorItem : public virtual IInterface {
-  TARVO_INTERFACE(IMemberEditorItem, IInterface, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A70}")
+class TARVO_API IMemberEditorItem : public virtual IInterface {
+  TARVO_INTERFACE(IMemberEditorItem, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A70}", IInterface)
 public:
   virtual TMemberEditorItem* GetInstance() = 0;
 };
 
 // One registration; immutable once built.
-class TMemberEditorItem : public TImplements<TInterfaced, IMemberEditorItem> {
+class TARVO_API TMemberEditorItem : public TImplements<TInterfaced, IMemberEditorItem> {
   TARVO_CLASS(TMemberEditorItem, TImplements<TInterfaced, IMemberEditorItem>)
 public:
   // The name is kept only together with an owner class.
@@ -40,7 +40,7 @@ public:
 using IMemberEditorItemList = IArrayList<TRef<IMemberEditorItem>>;
 
 // The registry; made at the unit's initialisation and released at its finalisation.
-extern TRef<ILinkedList<TRef<IMemberEditorItem>>> GMemberEditors;
+extern TARVO_API TRef<ILinkedList<TRef<IMemberEditorItem>>> GMemberEditors;
 
 // The editors the fallback chooses: one per type kind (nil where a kind has none) and the
 // classes of its special cases. The package's registrations fill them in.
@@ -51,35 +51,42 @@ struct TFallbackEditorClasses {
   TMemberEditorClass MultiLineStringEditor;
   TMemberEditorClass StringEditor;
   TMemberEditorClass DynamicElementEditor;
-  TMemberEditorClass MethodEditor = TMethodEditor::ClassInfo();
+  TMemberEditorClass MethodEditor;
 };
-extern TFallbackEditorClasses DefaultEditorClasses;
+extern TARVO_API TFallbackEditorClasses DefaultEditorClasses;
 
-void RegisterMemberEditor(TMemberKinds AKinds, const TRef<ITypeInfo>& AMemberType, TClass AOwnerClass,
-                          const String& AMemberName, TMemberEditorClass AEditorClass);
+TARVO_API void RegisterMemberEditor(TMemberKinds AKinds, const TRef<ITypeInfo>& AMemberType, TClass AOwnerClass,
+                                    const String& AMemberName, TMemberEditorClass AEditorClass);
 
-void RegisterPropertyEditor(const TRef<ITypeInfo>& AMemberType, TClass AOwnerClass, const String& AMemberName,
-                            TMemberEditorClass AEditorClass);
+TARVO_API void RegisterPropertyEditor(const TRef<ITypeInfo>& AMemberType, TClass AOwnerClass, const String& AMemberName,
+                                      TMemberEditorClass AEditorClass);
 // One entry for each owner class, in order.
-void RegisterPropertyEditor(const TRef<ITypeInfo>& AMemberType, std::span<const TClass> AOwnerClasses,
-                            const String& AMemberName, TMemberEditorClass AEditorClass);
-void RegisterPropertyEditor(const TRef<ITypeInfo>& AMemberType, TMemberEditorClass AEditorClass);
-void RegisterPropertyEditor(PTypeInfo AMemberType, TMemberEditorClass AEditorClass);
-void RegisterPropertyEditor(PTypeInfo AMemberType, TClass AOwnerClass, const String& AMemberName,
-                            TMemberEditorClass AEditorClass);
-void RegisterPropertyEditor(PTypeInfo AMemberType, std::span<const TClass> AOwnerClasses, const String& AMemberName,
-                            TMemberEditorClass AEditorClass);
+TARVO_API void RegisterPropertyEditor(const TRef<ITypeInfo>& AMemberType, std::span<const TClass> AOwnerClasses,
+                                      const String& AMemberName, TMemberEditorClass AEditorClass);
+TARVO_API void RegisterPropertyEditor(const TRef<ITypeInfo>& AMemberType, TMemberEditorClass AEditorClass);
+TARVO_API void RegisterPropertyEditor(PTypeInfo AMemberType, TMemberEditorClass AEditorClass);
+TARVO_API void RegisterPropertyEditor(PTypeInfo AMemberType, TClass AOwnerClass, const String& AMemberName,
+                                      TMemberEditorClass AEditorClass);
+TARVO_API void RegisterPropertyEditor(PTypeInfo AMemberType, std::span<const TClass> AOwnerClasses,
+                                      const String& AMemberName, TMemberEditorClass AEditorClass);
+
+// One line of an editor family's start-up table.
+struct TEditorRegistration {
+  PTypeInfo MemberType;
+  TClass OwnerClass;      // nil: any class
+  const char* MemberName; // empty: any name
+  TMemberEditorClass EditorClass;
+};
+// Registers the lines in their order.
+TARVO_API void RegisterPropertyEditors(std::initializer_list<TEditorRegistration> ALines);
 
 // The entries that serve AMember of AObject, ties in registration order. False with a nil list
 // for a hidden member; false with an empty list when nothing serves.
-bool GetMemberEditorEntries(const TRef<IMemberInfo>& AMember, TObject* AObject, TRef<IMemberEditorItemList>& AResult);
+TARVO_API bool GetMemberEditorEntries(const TRef<IMemberInfo>& AMember, TObject* AObject,
+                                      TRef<IMemberEditorItemList>& AResult);
 // The editor classes of those entries; the caller builds element 0.
-bool GetMemberEditorClasses(const TRef<IMemberInfo>& AMember, TObject* AObject,
-                            TRef<IArrayList<TMemberEditorClass>>& AResult);
-
-// Registers THiddenEditor for the hidden members reached from a component class's published
-// members; a type met before in the walk is not looked at again.
-void RegisterHiddenMembers(TClass AComponentClass);
+TARVO_API bool GetMemberEditorClasses(const TRef<IMemberInfo>& AMember, TObject* AObject,
+                                      TRef<IArrayList<TMemberEditorClass>>& AResult);
 
 // Removes every entry whose item class, owner class, editor class or member type lies in AModule.
 void SweepMemberEditors(TModule* AModule);

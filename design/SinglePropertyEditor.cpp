@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "design/MemberKinds.h"
+#include "reflection/RowAttributes.h"
+#include "reflection/RttiTypes.h"
 #include "runtime/LockItem.h"
 
 namespace Tarvo {
@@ -37,7 +39,8 @@ TRef<IValueMemberInfo> TSinglePropertyEditor::GetValueMember(TObject* AObject) {
   TRef<IMembersInfo> subMembers;
   TRef<IMemberInfo> match;
   if (FParentEditor && !FMemberName.empty() && FParentEditor->GetSubMembers(subMembers, false))
-    subMembers->Query()->Find([this](const TRef<IMemberInfo>& AMember) { return AMember->GetName() == FMemberName; }, match);
+    subMembers->Query()->Find([this](const TRef<IMemberInfo>& AMember) { return AMember->GetName() == FMemberName; },
+                              match);
   return QueryAs<IValueMemberInfo>(match);
 }
 
@@ -49,7 +52,8 @@ TRef<IValueArrayList> TSinglePropertyEditor::GetInstanceValues(const TRef<IObjec
   const TRef<IValueArrayList> result = New<TArrayList<TValue>>();
   if (!FDesigner) return result;
   const auto add = [this, &result](TObject* AInstance) {
-    result->Add(AInstance ? MemberAs<IValueMemberInfo>(GetValueMember(AInstance), FMemberName)->GetValue(AInstance) : TValue());
+    result->Add(AInstance ? MemberAs<IValueMemberInfo>(GetValueMember(AInstance), FMemberName)->GetValue(AInstance)
+                          : TValue());
   };
   if (AObjectsList)
     for (TObject* object : AObjectsList) add(object);
@@ -67,7 +71,8 @@ TRef<IStringArrayList> TSinglePropertyEditor::GetStringValues(const TRef<IObject
 
 String TSinglePropertyEditor::GetDisplayValue(const TRef<IObjectArrayList>& AObjectsList) {
   const std::vector<String> values = GetDisplayValues(AObjectsList)->ToArray();
-  if (!values.empty() && std::all_of(values.begin(), values.end(), [&](const String& AText) { return AText == values[0]; }))
+  if (!values.empty() &&
+      std::all_of(values.begin(), values.end(), [&](const String& AText) { return AText == values[0]; }))
     return values[0];
   String result;
   for (std::size_t i = 0; i < values.size(); ++i) result += (i > 0 ? ";" : "") + values[i];
@@ -88,7 +93,8 @@ void TSinglePropertyEditor::SetInstanceValues(const TValue& AValue) {
   const auto write = [&](TObject* AInstance) {
     // A nested object that is nil has nothing to write to.
     if (!AInstance) return;
-    refresh = WriteInstance(MemberAs<ISinglePropertyInfo>(GetValueMember(AInstance), FMemberName), AInstance, AValue) || refresh;
+    refresh = WriteInstance(MemberAs<ISinglePropertyInfo>(GetValueMember(AInstance), FMemberName), AInstance, AValue) ||
+              refresh;
     wrote = true;
   };
   if (FOwnerObject) write(FOwnerObject);
@@ -131,16 +137,16 @@ TRef<IArrayList<Boolean>> TSinglePropertyEditor::GetIsDefaults(const TRef<IObjec
   return result;
 }
 
-Boolean TSinglePropertyEditor::GetIsAllDefault() {
-  return !GetIsDefaults(nullptr)->Query()->Contains(false);
-}
+Boolean TSinglePropertyEditor::GetIsAllDefault() { return !GetIsDefaults(nullptr)->Query()->Contains(false); }
 
-TRef<IArrayList<TIsDefaultByStrored>> TSinglePropertyEditor::GetIsDefaultsByStored(const TRef<IObjectArrayList>& AObjectsList) {
+TRef<IArrayList<TIsDefaultByStrored>>
+TSinglePropertyEditor::GetIsDefaultsByStored(const TRef<IObjectArrayList>& AObjectsList) {
   const TRef<IArrayList<TIsDefaultByStrored>> result = New<TArrayList<TIsDefaultByStrored>>();
   TRef<ISinglePropertyInfo> member; // taken at the first object, so that an empty list asks for none
   for (TObject* object : GetOwnerObjects(AObjectsList)) {
     if (object && !member) member = MemberAs<ISinglePropertyInfo>(GetFirstMember(), FMemberName);
-    if (object && member->GetHasStored(object)) result->Add(TIsDefaultByStrored::Create(true, !member->GetIsStored(object)));
+    if (object && member->GetHasStored(object))
+      result->Add(TIsDefaultByStrored::Create(true, !member->GetIsStored(object)));
     else result->Add(TIsDefaultByStrored::Create(false, false));
   }
   return result;
@@ -189,7 +195,8 @@ void TSinglePropertyEditor::ResetValue() {
   if (Supports<ISinglePropertyInfo>(GetOwnerFirstMember())) SetInstanceValues(GetDefaultValue());
 }
 
-Boolean TSinglePropertyEditor::GetBooleanAttribute(const TRef<IMemberInfo>& AMember, TClass AAttribute, Boolean ADefault) {
+Boolean TSinglePropertyEditor::GetBooleanAttribute(const TRef<IMemberInfo>& AMember, TClass AAttribute,
+                                                   Boolean ADefault) {
   TCustomAttribute* found = nullptr;
   if (AMember->GetCustomAttribute(AAttribute, true, found) || ClassTypeInfo()->GetCustomAttribute(AAttribute, found))
     return static_cast<TBasicBooleanAttribute*>(found)->Value();

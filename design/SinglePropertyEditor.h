@@ -12,16 +12,16 @@ namespace Tarvo {
 class TSinglePropertyEditor;
 
 // Implemented by the host: redraw the row.
-class IRefreshMemberNotify : public virtual IInterface {
-  TARVO_INTERFACE(IRefreshMemberNotify, IInterface, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A66}")
+class TARVO_API IRefreshMemberNotify : public virtual IInterface {
+  TARVO_INTERFACE(IRefreshMemberNotify, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A66}", IInterface)
 public:
   virtual void RefreshMember() = 0;
 };
 
 using IValueArrayList = IArrayList<TValue>;
 
-class IPropertyEditor : public virtual IMemberEditor {
-  TARVO_INTERFACE(IPropertyEditor, IMemberEditor, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A65}")
+class TARVO_API IPropertyEditor : public virtual IMemberEditor {
+  TARVO_INTERFACE(IPropertyEditor, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A65}", IMemberEditor)
 public:
   // How the row shows in its parent's summary; AValue is filled also when the result is false.
   virtual Boolean GetDisplayNested(String& AValue, const TRef<IObjectArrayList>& AObjectsList) = 0;
@@ -46,23 +46,23 @@ public:
 
 // The editors a row expands into (ISubPropertyEditors). Its objects are plain lists of editors;
 // the interface adds no operation, it only names the list.
-class IPropertyEditors : public virtual IArrayList<TRef<IPropertyEditor>> {
-  TARVO_INTERFACE(IPropertyEditors, IArrayList<TRef<IPropertyEditor>>, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A67}")
+class TARVO_API IPropertyEditors : public virtual IArrayList<TRef<IPropertyEditor>> {
+  TARVO_INTERFACE(IPropertyEditors, "{6C1E2F3A-7B4D-4E8F-9A0B-1C2D3E4F5A67}", IArrayList<TRef<IPropertyEditor>>)
 };
 
 // The editors a row that answers ISubPropertyEditors expands into: an array list that says so.
-class TPropertyEditors : public TImplements<TArrayList<TRef<IPropertyEditor>>, IPropertyEditors> {};
+class TARVO_API TPropertyEditors : public TImplements<TArrayList<TRef<IPropertyEditor>>, IPropertyEditors> {};
 
 // An editor that offers a list of values to pick from.
-class IPropertyEditorDropDownStringList : public virtual IInterface {
-  TARVO_INTERFACE(IPropertyEditorDropDownStringList, IInterface, "{00E16386-0F34-4CAE-9CFA-85AEC8707DD0}")
+class TARVO_API IPropertyEditorDropDownStringList : public virtual IInterface {
+  TARVO_INTERFACE(IPropertyEditorDropDownStringList, "{00E16386-0F34-4CAE-9CFA-85AEC8707DD0}", IInterface)
 public:
   virtual TRef<IStringArrayList> GetStringListValues() = 0;
 };
 
 // Interfaces that attributes of the member make on demand (drop-down lists, the list dialog) are
 // to be answered by an override of QueryInterface; until then the editor answers as its base.
-class TSinglePropertyEditor : public TImplements<TMemberEditor, IPropertyEditor> {
+class TARVO_API TSinglePropertyEditor : public TImplements<TMemberEditor, IPropertyEditor> {
   TARVO_CLASS(TSinglePropertyEditor, TImplements<TMemberEditor, IPropertyEditor>)
 
 public:

@@ -52,7 +52,8 @@ void TEnumCanvasInplaceForm::SetSelectedValue(Integer AValue) {
 }
 
 void TEnumCanvasInplaceForm::ButtonClick(QToolButton* AButton) {
-  const auto found = std::find_if(FButtons.begin(), FButtons.end(), [AButton](const auto& AEntry) { return AEntry.first == AButton; });
+  const auto found =
+      std::find_if(FButtons.begin(), FButtons.end(), [AButton](const auto& AEntry) { return AEntry.first == AButton; });
   if (found != FButtons.end() && OnButtonClick) OnButtonClick(Integer(found - FButtons.begin()), found->second);
 }
 

@@ -30,12 +30,24 @@ void HBHSLToRGB(Single AHue, Single ASaturation, Single ALightness, Byte& ARed, 
   const Single base = lightness - chroma / 2;
   Single rgb[3];
   switch (int(hue)) {
-  case 0: rgb[0] = chroma, rgb[1] = second, rgb[2] = 0; break;
-  case 1: rgb[0] = second, rgb[1] = chroma, rgb[2] = 0; break;
-  case 2: rgb[0] = 0, rgb[1] = chroma, rgb[2] = second; break;
-  case 3: rgb[0] = 0, rgb[1] = second, rgb[2] = chroma; break;
-  case 4: rgb[0] = second, rgb[1] = 0, rgb[2] = chroma; break;
-  default: rgb[0] = chroma, rgb[1] = 0, rgb[2] = second; break;
+  case 0:
+    rgb[0] = chroma, rgb[1] = second, rgb[2] = 0;
+    break;
+  case 1:
+    rgb[0] = second, rgb[1] = chroma, rgb[2] = 0;
+    break;
+  case 2:
+    rgb[0] = 0, rgb[1] = chroma, rgb[2] = second;
+    break;
+  case 3:
+    rgb[0] = 0, rgb[1] = second, rgb[2] = chroma;
+    break;
+  case 4:
+    rgb[0] = second, rgb[1] = 0, rgb[2] = chroma;
+    break;
+  default:
+    rgb[0] = chroma, rgb[1] = 0, rgb[2] = second;
+    break;
   }
   const auto channel = [base](Single AShare) { return Byte(std::lround(std::clamp(AShare + base, 0.0f, 1.0f) * 255)); };
   ARed = channel(rgb[0]);
@@ -82,8 +94,7 @@ void THBHSVWheel::paintEvent(QPaintEvent*) {
   const QPointF center = Center();
   const Single radius = Radius();
   QConicalGradient hues(center, 0);
-  for (int sixth = 0; sixth <= 6; ++sixth)
-    hues.setColorAt(sixth / 6.0, QColor::fromHsvF(float(sixth % 6) / 6, 1, 1));
+  for (int sixth = 0; sixth <= 6; ++sixth) hues.setColorAt(sixth / 6.0, QColor::fromHsvF(float(sixth % 6) / 6, 1, 1));
   painter.setPen(Qt::NoPen);
   painter.setBrush(hues);
   painter.drawEllipse(center, radius, radius);

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include <QSignalBlocker>
+
 #include "platform/EventHook.h"
 
 namespace Tarvo {
@@ -19,7 +21,9 @@ Extended RoundHalfEven(Extended AValue) { return std::nearbyintl(AValue); }
 
 // What position APosition stands for in the range, at the precision of Extended, so that even
 // the full ranges of Int64 and Double cannot overflow.
-Extended PositionMeaning(int APosition, Extended AMin, Extended AMax) { return APosition / Steps * (AMax - AMin) + AMin; }
+Extended PositionMeaning(int APosition, Extended AMin, Extended AMax) {
+  return APosition / Steps * (AMax - AMin) + AMin;
+}
 
 // Position of a value in quarters: the first quarter of the range lands on 1024.
 Extended QuarterPosition(Extended AValue, Extended AMin, Extended AMax) {
@@ -47,19 +51,9 @@ TBasicRangedInplaceForm::TBasicRangedInplaceForm(QWidget* AParent) : TBasicInpla
   HookEvent(TrackBar, QEvent::MouseButtonPress, enter);
   HookEvent(TrackBar, QEvent::FocusOut, leave);
   HookEvent(TrackBar, QEvent::MouseButtonRelease, leave);
-  AttachTrackBarChange();
+  QObject::connect(TrackBar, &QSlider::valueChanged, [this] { TrackBarChange(); });
   resize(200, ClientHeight);
 }
-
-void TBasicRangedInplaceForm::AttachTrackBarChange() {
-  FTrackBarChange = QObject::connect(TrackBar, &QSlider::valueChanged, [this] { TrackBarChange(); });
-}
-
-TBasicRangedInplaceForm::TDetachedChange::TDetachedChange(TBasicRangedInplaceForm& AForm) : FForm(AForm) {
-  QObject::disconnect(FForm.FTrackBarChange);
-}
-
-TBasicRangedInplaceForm::TDetachedChange::~TDetachedChange() { FForm.AttachTrackBarChange(); }
 
 void TBasicRangedInplaceForm::DoValueChange() {
   if (OnValueChange) OnValueChange(this);
@@ -88,7 +82,7 @@ TValue TNumericInplaceForm::GetValue() const { return TValue::From<Int64>(FValue
 
 void TNumericInplaceForm::SetValue(const TValue& AValue) {
   const Int64 value = AValue.AsInt64();
-  TDetachedChange detached(*this);
+  const QSignalBlocker quiet(TrackBar); // a value set from outside is no change by the user
   TARVO_ASSERT(FLimits != nullptr);
   const Int64 min = MinValue(), max = MaxValue();
   if (FHasValue && value == FValue) return;
@@ -113,7 +107,7 @@ TValue TRealInplaceFormUnit::GetValue() const { return TValue::From<Double>(FVal
 void TRealInplaceFormUnit::SetValue(const TValue& AValue) {
   if (FLockCount > 0) return;
   FValue = Double(AValue.AsExtended());
-  TDetachedChange detached(*this);
+  const QSignalBlocker quiet(TrackBar); // a value set from outside is no change by the user
   Extended min, max;
   ReadLimits(min, max);
   if (Double(PositionMeaning(TrackBar->value(), min, max)) != FValue) SetPosition(QuarterPosition(FValue, min, max));

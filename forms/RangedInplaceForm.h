@@ -36,26 +36,9 @@ protected:
   Int64 MinValue() { return FLimits->GetMinValue().AsInt64(); }
   Int64 MaxValue() { return FLimits->GetMaxValue().AsInt64(); }
 
-  // TrackBarChange stays off the bar while one of these lives.
-  class TDetachedChange {
-  public:
-    explicit TDetachedChange(TBasicRangedInplaceForm& AForm);
-    ~TDetachedChange();
-    TDetachedChange(const TDetachedChange&) = delete;
-    TDetachedChange& operator=(const TDetachedChange&) = delete;
-
-  private:
-    TBasicRangedInplaceForm& FForm;
-  };
-
   void resizeEvent(QResizeEvent* AEvent) override;
 
   TRef<IPropertyRange> FLimits;
-
-private:
-  void AttachTrackBarChange();
-
-  QMetaObject::Connection FTrackBarChange;
 };
 
 // Whole numbers up to the full 64-bit range.

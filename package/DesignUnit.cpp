@@ -2,8 +2,10 @@
 
 #include "containers/List.h"
 #include "design/Registry.h"
+#include "design/editors/BasicEditors.h"
 #include "design/paint/PaintObjects.h"
-#include "design/reflection/DesignComponents.h"
+#include "reflection/ComponentRegistration.h"
+#include "reflection/RttiTypes.h"
 #include "rtl/Module.h"
 
 namespace Tarvo {

@@ -2,7 +2,7 @@
 // The set-up and tear-down of the design core: its registries, the types it compares with, the
 // hooks it places in the component registry and the module loader, and its own registrations.
 
-#include "design/reflection/TypeInfo.h"
+#include "reflection/TypeInfo.h"
 
 namespace Tarvo {
 

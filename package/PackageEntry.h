@@ -3,13 +3,15 @@
 // and stop them. A unit reached twice starts on the first initialisation and stops on the last
 // finalisation, so hosts and tests may balance the calls as they like.
 
+#include "rtl/Export.h"
+
 extern "C" {
 
 // One unit of the package. Counter is the start-up guard: 0 while the unit is down.
 struct TPackageUnitEntry {
   const char* Name;
-  void (*Init)();   // nil for a unit with nothing to set up
-  void (*FInit)();  // nil for a unit with nothing to tear down
+  void (*Init)();  // nil for a unit with nothing to set up
+  void (*FInit)(); // nil for a unit with nothing to tear down
   int Counter;
 };
 
@@ -19,9 +21,9 @@ struct TPackageInfoTable {
 };
 
 // The units in the order they start.
-TPackageInfoTable* GetPackageInfoTable();
+TARVO_API TPackageInfoTable* GetPackageInfoTable();
 // Runs each unit's initialisation in table order.
-void Initialize();
+TARVO_API void Initialize();
 // Runs each unit's finalisation in reverse table order.
-void Finalize();
+TARVO_API void Finalize();
 }

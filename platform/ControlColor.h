@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The colour of a widget as the design speaks of it: a TColor that may name a system colour. The
 // widget paints its background in it through the window role of its palette, and keeps the TColor
 // as given, so that a system colour stays one.
@@ -17,3 +18,5 @@ TColor GetControlColor(const QWidget* AControl);
 void SetControlColor(QWidget* AControl, TColor AColor);
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Handlers for the events of a widget that was not written to handle them: the widget's class
 // stays as it is, and no meta-object code is needed.
 
@@ -14,3 +15,5 @@ namespace Tarvo {
 void HookEvent(QObject* ATarget, QEvent::Type AType, TProc<QEvent*> AHandler);
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

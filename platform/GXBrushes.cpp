@@ -30,8 +30,7 @@ TIGXHatchBrush::TIGXHatchBrush(TIGXHatchStyle AStyle, TAlphaColor AForeColor, TA
     : FStyle(AStyle), FForeColor(AForeColor), FBackColor(ABackColor), FTile(8, 8, QImage::Format_ARGB32_Premultiplied) {
   const THatchPattern& pattern = HatchPattern(AStyle);
   for (int y = 0; y < 8; ++y)
-    for (int x = 0; x < 8; ++x)
-      FTile.setPixel(x, y, qPremultiply(pattern[y] & (0x80 >> x) ? AForeColor : ABackColor));
+    for (int x = 0; x < 8; ++x) FTile.setPixel(x, y, qPremultiply(pattern[y] & (0x80 >> x) ? AForeColor : ABackColor));
 }
 
 void TIGXHatchBrush::Fill(QPainter& APainter, const QPainterPath& AArea) {

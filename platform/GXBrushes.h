@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Brushes of the drawing wrapper: solid, hatch, texture, linear gradient and path gradient.
 // A brush fills an area of a painter in the painter's world coordinates.
 
@@ -18,16 +19,59 @@ namespace Tarvo {
 enum TIGXBrushType : Integer { btSolidColor, btHatchFill, btTextureFill, btPathGradient, btLinearGradient };
 
 enum TIGXHatchStyle : Integer {
-  hsHorizontal, hsVertical, hsForwardDiagonal, hsBackwardDiagonal, hsCross, hsDiagonalCross,
-  hs05Percent, hs10Percent, hs20Percent, hs25Percent, hs30Percent, hs40Percent, hs50Percent,
-  hs60Percent, hs70Percent, hs75Percent, hs80Percent, hs90Percent,
-  hsLightDownwardDiagonal, hsLightUpwardDiagonal, hsDarkDownwardDiagonal, hsDarkUpwardDiagonal,
-  hsWideDownwardDiagonal, hsWideUpwardDiagonal, hsLightVertical, hsLightHorizontal,
-  hsNarrowVertical, hsNarrowHorizontal, hsDarkVertical, hsDarkHorizontal,
-  hsDashedDownwardDiagonal, hsDashedUpwardDiagonal, hsDashedHorizontal, hsDashedVertical,
-  hsSmallConfetti, hsLargeConfetti, hsZigZag, hsWave, hsDiagonalBrick, hsHorizontalBrick,
-  hsWeave, hsPlaid, hsDivot, hsDottedGrid, hsDottedDiamond, hsShingle, hsTrellis, hsSphere,
-  hsSmallGrid, hsSmallCheckerBoard, hsLargeCheckerBoard, hsOutlinedDiamond, hsSolidDiamond
+  hsHorizontal,
+  hsVertical,
+  hsForwardDiagonal,
+  hsBackwardDiagonal,
+  hsCross,
+  hsDiagonalCross,
+  hs05Percent,
+  hs10Percent,
+  hs20Percent,
+  hs25Percent,
+  hs30Percent,
+  hs40Percent,
+  hs50Percent,
+  hs60Percent,
+  hs70Percent,
+  hs75Percent,
+  hs80Percent,
+  hs90Percent,
+  hsLightDownwardDiagonal,
+  hsLightUpwardDiagonal,
+  hsDarkDownwardDiagonal,
+  hsDarkUpwardDiagonal,
+  hsWideDownwardDiagonal,
+  hsWideUpwardDiagonal,
+  hsLightVertical,
+  hsLightHorizontal,
+  hsNarrowVertical,
+  hsNarrowHorizontal,
+  hsDarkVertical,
+  hsDarkHorizontal,
+  hsDashedDownwardDiagonal,
+  hsDashedUpwardDiagonal,
+  hsDashedHorizontal,
+  hsDashedVertical,
+  hsSmallConfetti,
+  hsLargeConfetti,
+  hsZigZag,
+  hsWave,
+  hsDiagonalBrick,
+  hsHorizontalBrick,
+  hsWeave,
+  hsPlaid,
+  hsDivot,
+  hsDottedGrid,
+  hsDottedDiamond,
+  hsShingle,
+  hsTrellis,
+  hsSphere,
+  hsSmallGrid,
+  hsSmallCheckerBoard,
+  hsLargeCheckerBoard,
+  hsOutlinedDiamond,
+  hsSolidDiamond
 };
 inline constexpr int HatchStyleCount = hsSolidDiamond + 1;
 
@@ -42,7 +86,7 @@ enum TIGXWrapMode : Integer { wmTile, wmTileFlipX, wmTileFlipY, wmTileFlipXY, wm
 enum TIGXLinearGradientMode : Integer { lgmHorizontal, lgmVertical, lgmForwardDiagonal, lgmBackwardDiagonal };
 
 class IGXBrush : public virtual IInterface {
-  TARVO_INTERFACE(IGXBrush, IInterface, "{0F6B3D28-71A9-4E5C-B4D3-92E8A1C7F053}")
+  TARVO_INTERFACE(IGXBrush, "{0F6B3D28-71A9-4E5C-B4D3-92E8A1C7F053}", IInterface)
 public:
   virtual TIGXBrushType GetType() = 0;
   // Fills AArea, given in the world coordinates of APainter; leaves the painter's state as it was.
@@ -50,14 +94,14 @@ public:
 };
 
 class IGXSolidBrush : public virtual IGXBrush {
-  TARVO_INTERFACE(IGXSolidBrush, IGXBrush, "{A3C8E512-4D7B-4F09-8A26-E51B3D90C7F4}")
+  TARVO_INTERFACE(IGXSolidBrush, "{A3C8E512-4D7B-4F09-8A26-E51B3D90C7F4}", IGXBrush)
 public:
   virtual TAlphaColor GetColor() = 0;
   virtual void SetColor(TAlphaColor AColor) = 0;
 };
 
 class IGXHatchBrush : public virtual IGXBrush {
-  TARVO_INTERFACE(IGXHatchBrush, IGXBrush, "{6D2F94B1-E083-4A5D-9C17-B8A4E6203F95}")
+  TARVO_INTERFACE(IGXHatchBrush, "{6D2F94B1-E083-4A5D-9C17-B8A4E6203F95}", IGXBrush)
 public:
   virtual TIGXHatchStyle GetHatchStyle() = 0;
   virtual TAlphaColor GetForegroundColor() = 0;
@@ -65,7 +109,7 @@ public:
 };
 
 class IGXTextureBrush : public virtual IGXBrush {
-  TARVO_INTERFACE(IGXTextureBrush, IGXBrush, "{E14A7C36-25F8-4B91-A0D2-7C9563B8E1A4}")
+  TARVO_INTERFACE(IGXTextureBrush, "{E14A7C36-25F8-4B91-A0D2-7C9563B8E1A4}", IGXBrush)
 public:
   virtual TRef<IGXImage> GetImage() = 0;
   virtual TIGXWrapMode GetWrapMode() = 0;
@@ -76,7 +120,7 @@ public:
 };
 
 class IGXLinearGradientBrush : public virtual IGXBrush {
-  TARVO_INTERFACE(IGXLinearGradientBrush, IGXBrush, "{93B05E7D-C1A2-4D68-B3F4-0A8E27D5C169}")
+  TARVO_INTERFACE(IGXLinearGradientBrush, "{93B05E7D-C1A2-4D68-B3F4-0A8E27D5C169}", IGXBrush)
 public:
   // Tile repeats the gradient beyond its end points, the flips mirror it; clamp is refused
   // with EArgumentException.
@@ -87,11 +131,12 @@ public:
   virtual void SetBlend(const std::vector<Single>& AFactors, const std::vector<Single>& APositions) = 0;
   // Colours at positions along the gradient, replacing the two colours and any blend; positions
   // as for SetBlend.
-  virtual void SetInterpolationColors(const std::vector<TAlphaColor>& AColors, const std::vector<Single>& APositions) = 0;
+  virtual void SetInterpolationColors(const std::vector<TAlphaColor>& AColors,
+                                      const std::vector<Single>& APositions) = 0;
 };
 
 class IGXPathGradientBrush : public virtual IGXBrush {
-  TARVO_INTERFACE(IGXPathGradientBrush, IGXBrush, "{4C7E1A90-8B35-4F26-9D0E-B6A3F52C8D17}")
+  TARVO_INTERFACE(IGXPathGradientBrush, "{4C7E1A90-8B35-4F26-9D0E-B6A3F52C8D17}", IGXBrush)
 public:
   virtual TAlphaColor GetCenterColor() = 0;
   virtual void SetCenterColor(TAlphaColor AColor) = 0;
@@ -161,10 +206,12 @@ class TIGXLinearGradientBrush : public TImplements<TInterfacedObject, IGXLinearG
 public:
   // From AColor1 at APoint1 to AColor2 at APoint2; lines of equal colour stand perpendicular to
   // the line between them. Raises EArgumentException when the points coincide.
-  TIGXLinearGradientBrush(const TIGXPointF& APoint1, const TIGXPointF& APoint2, TAlphaColor AColor1, TAlphaColor AColor2);
+  TIGXLinearGradientBrush(const TIGXPointF& APoint1, const TIGXPointF& APoint2, TAlphaColor AColor1,
+                          TAlphaColor AColor2);
   // Across ARect in the direction of AMode; the diagonal modes run corner to corner, with lines
   // of equal colour parallel to the other diagonal. Raises EArgumentException for an empty rectangle.
-  TIGXLinearGradientBrush(const TIGXRect& ARect, TAlphaColor AColor1, TAlphaColor AColor2, TIGXLinearGradientMode AMode);
+  TIGXLinearGradientBrush(const TIGXRect& ARect, TAlphaColor AColor1, TAlphaColor AColor2,
+                          TIGXLinearGradientMode AMode);
 
   TIGXBrushType GetType() override { return btLinearGradient; }
   void Fill(QPainter& APainter, const QPainterPath& AArea) override;
@@ -216,3 +263,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

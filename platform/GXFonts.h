@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Fonts and string formats of the drawing wrapper: what text looks like, and how it is laid
 // out in its rectangle.
 
@@ -17,7 +18,7 @@ constexpr TIGXFontStyle operator|(TIGXFontStyle A, TIGXFontStyle B) { return TIG
 enum TIGXFontUnit : Integer { fuPixel = 2, fuPoint = 3 };
 
 class IGXFont : public virtual IInterface {
-  TARVO_INTERFACE(IGXFont, IInterface, "{C6F2185A-93D4-4B07-8E2C-51A7D0B3F948}")
+  TARVO_INTERFACE(IGXFont, "{C6F2185A-93D4-4B07-8E2C-51A7D0B3F948}", IInterface)
 public:
   virtual String GetFamily() = 0;
   virtual Single GetSize() = 0;
@@ -49,12 +50,10 @@ inline constexpr Cardinal sfNoWrap = 0x1000;
 inline constexpr Cardinal sfNoClip = 0x4000;
 
 enum TIGXStringAlignment : Integer { saNear, saCenter, saFar };
-enum TIGXStringTrimming : Integer {
-  stNone, stCharacter, stWord, stEllipsisCharacter, stEllipsisWord, stEllipsisPath
-};
+enum TIGXStringTrimming : Integer { stNone, stCharacter, stWord, stEllipsisCharacter, stEllipsisWord, stEllipsisPath };
 
 class IGXStringFormat : public virtual IInterface {
-  TARVO_INTERFACE(IGXStringFormat, IInterface, "{7A1D4E90-B5C3-4F68-92E1-0C8B6A357D21}")
+  TARVO_INTERFACE(IGXStringFormat, "{7A1D4E90-B5C3-4F68-92E1-0C8B6A357D21}", IInterface)
 public:
   virtual Cardinal GetFormatFlags() = 0;
   virtual void SetFormatFlags(Cardinal AFlags) = 0;
@@ -91,3 +90,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -51,16 +51,19 @@ TAlphaColor Shade(const std::array<TAlphaColor, 3>& AColors, const std::array<do
 
 // ---- Linear gradient ----
 
-TIGXLinearGradientBrush::TIGXLinearGradientBrush(const TIGXPointF& APoint1, const TIGXPointF& APoint2, TAlphaColor AColor1, TAlphaColor AColor2)
-    : FStart(APoint1.ToQPointF()), FEnd(APoint2.ToQPointF()), FColor1(AColor1), FColor2(AColor2),
-      FStops{{0.0, ToQColor(AColor1)}, {1.0, ToQColor(AColor2)}} {
+TIGXLinearGradientBrush::TIGXLinearGradientBrush(const TIGXPointF& APoint1, const TIGXPointF& APoint2,
+                                                 TAlphaColor AColor1, TAlphaColor AColor2)
+    : FStart(APoint1.ToQPointF()), FEnd(APoint2.ToQPointF()), FColor1(AColor1),
+      FColor2(AColor2), FStops{{0.0, ToQColor(AColor1)}, {1.0, ToQColor(AColor2)}} {
   if (APoint1 == APoint2) throw EArgumentException("A linear gradient needs two distinct points");
 }
 
-TIGXLinearGradientBrush::TIGXLinearGradientBrush(const TIGXRect& ARect, TAlphaColor AColor1, TAlphaColor AColor2, TIGXLinearGradientMode AMode)
+TIGXLinearGradientBrush::TIGXLinearGradientBrush(const TIGXRect& ARect, TAlphaColor AColor1, TAlphaColor AColor2,
+                                                 TIGXLinearGradientMode AMode)
     : FColor1(AColor1), FColor2(AColor2), FStops{{0.0, ToQColor(AColor1)}, {1.0, ToQColor(AColor2)}} {
   CheckEnumValue(AMode, lgmBackwardDiagonal + 1, "TIGXLinearGradientMode");
-  if (!(ARect.Width > 0 && ARect.Height > 0)) throw EArgumentException("A linear gradient needs a rectangle with an area");
+  if (!(ARect.Width > 0 && ARect.Height > 0))
+    throw EArgumentException("A linear gradient needs a rectangle with an area");
   // Corner to corner of the unit square, then stretched onto the rectangle.
   static constexpr std::array<std::array<QPointF, 2>, 4> Ends = {{
       {QPointF(0, 0), QPointF(1, 0)},
@@ -88,7 +91,8 @@ void TIGXLinearGradientBrush::SetBlend(const std::vector<Single>& AFactors, cons
     FStops.append({APositions[i], ToQColor(MixColors(FColor1, FColor2, AFactors[i]))});
 }
 
-void TIGXLinearGradientBrush::SetInterpolationColors(const std::vector<TAlphaColor>& AColors, const std::vector<Single>& APositions) {
+void TIGXLinearGradientBrush::SetInterpolationColors(const std::vector<TAlphaColor>& AColors,
+                                                     const std::vector<Single>& APositions) {
   CheckPositions(AColors.size(), APositions, "Invalid interpolation colors");
   FStops.clear();
   for (std::size_t i = 0; i < AColors.size(); ++i) FStops.append({APositions[i], ToQColor(AColors[i])});
@@ -98,7 +102,8 @@ void TIGXLinearGradientBrush::Fill(QPainter& APainter, const QPainterPath& AArea
   QLinearGradient gradient(FStart, FEnd);
   gradient.setStops(FStops);
   // Mirroring across the gradient's lines changes nothing, so only a flip along it reflects.
-  gradient.setSpread(FWrapMode == wmTileFlipX || FWrapMode == wmTileFlipXY ? QGradient::ReflectSpread : QGradient::RepeatSpread);
+  gradient.setSpread(FWrapMode == wmTileFlipX || FWrapMode == wmTileFlipXY ? QGradient::ReflectSpread
+                                                                           : QGradient::RepeatSpread);
   QBrush brush(gradient);
   brush.setTransform(FTransform);
   APainter.fillPath(AArea, brush);

@@ -157,8 +157,7 @@ void TIGXGraphics::DrawString(const String& AText, const TRef<IGXFont>& AFont, c
   if (Supports<IGXSolidBrush>(ABrush, solid)) {
     FPainter->setPen(ToQColor(solid->GetColor()));
     FPainter->drawText(layout.Rect, layout.Flags, layout.Text);
-  } else
-    DrawTextThroughBrush(*FPainter, layout, *ABrush);
+  } else DrawTextThroughBrush(*FPainter, layout, *ABrush);
   FPainter->restore();
 }
 

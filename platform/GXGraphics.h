@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The drawing surface of the wrapper: draws shapes, images and text with pens, brushes and
 // fonts onto a QImage or through a painter that a paint event already holds. With smoothing
 // off, whole coordinates land on whole pixels: a filled rectangle (x, y, w, h) covers w by h
@@ -23,12 +24,18 @@ namespace Tarvo {
 enum TIGXSmoothingMode : Integer { smDefault, smHighSpeed, smHighQuality, smNone, smAntiAlias };
 // Numbered as stored in designs; every mode but nearest neighbour filters scaled images.
 enum TIGXInterpolationMode : Integer {
-  imDefault, imLowQuality, imHighQuality, imBilinear, imBicubic, imNearestNeighbor,
-  imHighQualityBilinear, imHighQualityBicubic
+  imDefault,
+  imLowQuality,
+  imHighQuality,
+  imBilinear,
+  imBicubic,
+  imNearestNeighbor,
+  imHighQualityBilinear,
+  imHighQualityBicubic
 };
 
 class IGXGraphics : public virtual IInterface {
-  TARVO_INTERFACE(IGXGraphics, IInterface, "{B8D5F2A7-0C34-4E91-A6B8-5F1E7392D0C4}")
+  TARVO_INTERFACE(IGXGraphics, "{B8D5F2A7-0C34-4E91-A6B8-5F1E7392D0C4}", IInterface)
 public:
   // Sets every pixel (within the clip) to AColor, replacing what was there.
   virtual void Clear(TAlphaColor AColor) = 0;
@@ -103,3 +110,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Images of the drawing wrapper: bitmaps in memory, decoded from PNG or BMP bytes, or read from
 // a resource compiled into a module.
 
@@ -15,7 +16,7 @@ namespace Tarvo {
 class TModule;
 
 class IGXImage : public virtual IInterface {
-  TARVO_INTERFACE(IGXImage, IInterface, "{8E3A61D5-0B47-4C92-A1F8-3D6C25E9B704}")
+  TARVO_INTERFACE(IGXImage, "{8E3A61D5-0B47-4C92-A1F8-3D6C25E9B704}", IInterface)
 public:
   virtual Integer GetWidth() = 0;
   virtual Integer GetHeight() = 0;
@@ -24,7 +25,7 @@ public:
 };
 
 class IGXBitmap : public virtual IGXImage {
-  TARVO_INTERFACE(IGXBitmap, IGXImage, "{2D94C0B8-6F15-4E3A-8B72-C5A019D34E6F}")
+  TARVO_INTERFACE(IGXBitmap, "{2D94C0B8-6F15-4E3A-8B72-C5A019D34E6F}", IGXImage)
 public:
   // Raise EArgumentOutOfRangeException outside the bitmap.
   virtual TAlphaColor GetPixel(Integer AX, Integer AY) = 0;
@@ -59,3 +60,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Pens of the drawing wrapper: colour, width, dash style, line join and alignment. Dash lengths
 // are in multiples of the pen width.
 
@@ -17,7 +18,7 @@ enum TIGXLineJoin : Integer { ljMiter, ljBevel, ljRound, ljMiterClipped };
 enum TIGXPenAlignment : Integer { paCenter, paInset };
 
 class IGXPen : public virtual IInterface {
-  TARVO_INTERFACE(IGXPen, IInterface, "{5B0E7A43-2C61-4D8A-9F35-7E1C0B94A6D2}")
+  TARVO_INTERFACE(IGXPen, "{5B0E7A43-2C61-4D8A-9F35-7E1C0B94A6D2}", IInterface)
 public:
   virtual TAlphaColor GetColor() = 0;
   virtual void SetColor(TAlphaColor AColor) = 0;
@@ -67,3 +68,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

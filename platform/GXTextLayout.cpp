@@ -42,7 +42,8 @@ TGXTextLayout LayOutText(const String& AText, const QFont& AFont, QPaintDevice* 
   layout.Clip = !(flags & sfNoClip);
   const bool wrap = !(flags & sfNoWrap);
   // Clipping is the caller's, by the format.
-  layout.Flags = HorizontalFlags[alignment] | VerticalFlags[lineAlignment] | Qt::TextDontClip | (wrap ? Qt::TextWordWrap : 0);
+  layout.Flags =
+      HorizontalFlags[alignment] | VerticalFlags[lineAlignment] | Qt::TextDontClip | (wrap ? Qt::TextWordWrap : 0);
   layout.Text = QString::fromStdString(AText);
 
   if (!wrap && trimming >= stEllipsisCharacter) {

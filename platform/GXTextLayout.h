@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // How a string format lays text out in a rectangle, in the terms QPainter::drawText takes:
 // the text with ellipses applied, alignment and wrap flags, the layout rectangle and the clip.
 
@@ -26,3 +27,5 @@ TGXTextLayout LayOutText(const String& AText, const QFont& AFont, QPaintDevice* 
                          IGXStringFormat* AFormat);
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Geometry and colours of the drawing wrapper. Rectangles and points are in world units (pixels
 // unless the graphics is transformed); colours are 32-bit ARGB, while TColor keeps its
 // 0x00BBGGRR form with system colours in the high byte.
@@ -65,12 +66,35 @@ inline constexpr TAlphaColor claNull = 0x00000000u;
 
 // The system colour indices, as they appear in the low byte of a system TColor.
 enum TSystemColorIndex : Byte {
-  scScrollBar, scBackground, scActiveCaption, scInactiveCaption, scMenu,
-  scWindow, scWindowFrame, scMenuText, scWindowText, scCaptionText,
-  scActiveBorder, scInactiveBorder, scAppWorkspace, scHighlight, scHighlightText,
-  scBtnFace, scBtnShadow, scGrayText, scBtnText, scInactiveCaptionText,
-  scBtnHighlight, sc3DDarkShadow, sc3DLight, scInfoText, scInfoBackground,
-  scHotLight = 26, scGradientActiveCaption, scGradientInactiveCaption, scMenuHighlight,
+  scScrollBar,
+  scBackground,
+  scActiveCaption,
+  scInactiveCaption,
+  scMenu,
+  scWindow,
+  scWindowFrame,
+  scMenuText,
+  scWindowText,
+  scCaptionText,
+  scActiveBorder,
+  scInactiveBorder,
+  scAppWorkspace,
+  scHighlight,
+  scHighlightText,
+  scBtnFace,
+  scBtnShadow,
+  scGrayText,
+  scBtnText,
+  scInactiveCaptionText,
+  scBtnHighlight,
+  sc3DDarkShadow,
+  sc3DLight,
+  scInfoText,
+  scInfoBackground,
+  scHotLight = 26,
+  scGradientActiveCaption,
+  scGradientInactiveCaption,
+  scMenuHighlight,
   scMenuBar
 };
 
@@ -94,3 +118,5 @@ void CheckEnumValue(Integer AValue, Integer ACount, const char* ATypeName);
 inline QColor ToQColor(TAlphaColor AColor) { return QColor::fromRgba(AColor); }
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

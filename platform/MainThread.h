@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Work put off until the main thread's event loop comes round again: a handler that must not
 // destroy the widget it runs in, or a change that must wait until the current event is done.
 
@@ -15,3 +16,5 @@ void MainThreadExecute(TProc<> AProc);
 void ProcessMainThreadQueue();
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

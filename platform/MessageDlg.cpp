@@ -24,10 +24,18 @@ struct TButtonEntry {
 
 // Qt has no plain "All" button; the save-all button stands in for it under its own caption.
 constexpr std::array<TButtonEntry, TEnumTraits<TMsgDlgBtn>::Count> ButtonTable = {{
-    {QMessageBox::Yes, nullptr},      {QMessageBox::No, nullptr},       {QMessageBox::Ok, nullptr},
-    {QMessageBox::Cancel, nullptr},   {QMessageBox::Abort, nullptr},    {QMessageBox::Retry, nullptr},
-    {QMessageBox::Ignore, nullptr},   {QMessageBox::SaveAll, "&All"},   {QMessageBox::NoToAll, nullptr},
-    {QMessageBox::YesToAll, nullptr}, {QMessageBox::Help, nullptr},     {QMessageBox::Close, nullptr},
+    {QMessageBox::Yes, nullptr},
+    {QMessageBox::No, nullptr},
+    {QMessageBox::Ok, nullptr},
+    {QMessageBox::Cancel, nullptr},
+    {QMessageBox::Abort, nullptr},
+    {QMessageBox::Retry, nullptr},
+    {QMessageBox::Ignore, nullptr},
+    {QMessageBox::SaveAll, "&All"},
+    {QMessageBox::NoToAll, nullptr},
+    {QMessageBox::YesToAll, nullptr},
+    {QMessageBox::Help, nullptr},
+    {QMessageBox::Close, nullptr},
 }};
 
 struct TTypeEntry {

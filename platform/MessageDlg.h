@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Message boxes, run through the modal seam.
 
 #include "rtl/Sets.h"
@@ -7,8 +8,8 @@
 namespace Tarvo {
 
 TARVO_ENUM(TMsgDlgType, mtWarning, mtError, mtInformation, mtConfirmation, mtCustom)
-TARVO_ENUM(TMsgDlgBtn, mbYes, mbNo, mbOK, mbCancel, mbAbort, mbRetry, mbIgnore, mbAll, mbNoToAll, mbYesToAll,
-           mbHelp, mbClose)
+TARVO_ENUM(TMsgDlgBtn, mbYes, mbNo, mbOK, mbCancel, mbAbort, mbRetry, mbIgnore, mbAll, mbNoToAll, mbYesToAll, mbHelp,
+           mbClose)
 TARVO_SET(TMsgDlgButtons, TMsgDlgBtn)
 
 // Asks the user with AMessage and the buttons of AButtons, ADefault focused; answers the button
@@ -17,3 +18,5 @@ TARVO_SET(TMsgDlgButtons, TMsgDlgBtn)
 TMsgDlgBtn MessageDlg(const String& AMessage, TMsgDlgType AType, TMsgDlgButtons AButtons, TMsgDlgBtn ADefault);
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

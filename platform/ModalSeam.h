@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Every modal run of the package (a dialog's Execute, a form's ShowModal, a message box) goes
 // through ExecuteModal, so that a test can stand in for the user: it installs a handler that
 // fills the dialog and says how it was closed, and no modal loop ever starts.
@@ -35,3 +36,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

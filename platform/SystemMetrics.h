@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Measures of the user's system that the package adapts to.
 
 #include <QPoint>
@@ -14,3 +15,5 @@ Integer GetDragThreshold();
 Boolean IsDragDistance(const QPoint& AFrom, const QPoint& ATo);
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

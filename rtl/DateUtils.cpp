@@ -13,10 +13,10 @@ namespace Tarvo {
 namespace {
 
 constexpr Int64 MSecsPerDay = 86400000;
-constexpr Int64 DaysBefore1970 = 25569;   // from 1899-12-30 to 1970-01-01
-constexpr Int64 FirstDay = -693593;       // 0001-01-01
-constexpr Int64 LastDay = 2958465;        // 9999-12-31
-constexpr int TwoDigitYearWindow = 1950;  // two-digit years fall in 1950..2049
+constexpr Int64 DaysBefore1970 = 25569;  // from 1899-12-30 to 1970-01-01
+constexpr Int64 FirstDay = -693593;      // 0001-01-01
+constexpr Int64 LastDay = 2958465;       // 9999-12-31
+constexpr int TwoDigitYearWindow = 1950; // two-digit years fall in 1950..2049
 
 enum TPart { dpYear, dpMonth, dpDay, dpHour, dpMinute, dpSecond, dpMilliSecond, dpCount };
 using TParts = std::array<Word, dpCount>;
@@ -152,7 +152,8 @@ TDateTime EncodeDate(Word AYear, Word AMonth, Word ADay) { return Join({AYear, A
 
 TDateTime EncodeTime(Word AHour, Word AMinute, Word ASecond, Word AMilliSecond) {
   TDateTime result = 0;
-  if (!TryEncodeTime(AHour, AMinute, ASecond, AMilliSecond, result)) throw EConvertError("Invalid argument to time encode");
+  if (!TryEncodeTime(AHour, AMinute, ASecond, AMilliSecond, result))
+    throw EConvertError("Invalid argument to time encode");
   return result;
 }
 
@@ -222,16 +223,17 @@ String FormatDateTime(std::string_view AFormat, TDateTime ADateTime, const TForm
     TPart Part;
     std::size_t MaxRun, Long, ShortWidth, LongWidth;
   };
-  static constexpr TToken Tokens[] = {
-      {'y', dpYear, 4, 3, 2, 4},   {'m', dpMonth, 2, 2, 1, 2},  {'d', dpDay, 2, 2, 1, 2},
-      {'h', dpHour, 2, 2, 1, 2},   {'n', dpMinute, 2, 2, 1, 2}, {'s', dpSecond, 2, 2, 1, 2},
-      {'z', dpMilliSecond, 3, 3, 1, 3}};
+  static constexpr TToken Tokens[] = {{'y', dpYear, 4, 3, 2, 4},       {'m', dpMonth, 2, 2, 1, 2},
+                                      {'d', dpDay, 2, 2, 1, 2},        {'h', dpHour, 2, 2, 1, 2},
+                                      {'n', dpMinute, 2, 2, 1, 2},     {'s', dpSecond, 2, 2, 1, 2},
+                                      {'z', dpMilliSecond, 3, 3, 1, 3}};
   const TParts parts = Split(ADateTime);
   const String format = LowerCase(AFormat);
   String result;
   for (std::size_t i = 0; i < format.size();) {
     const char c = format[i];
-    const TToken* token = std::find_if(std::begin(Tokens), std::end(Tokens), [c](const TToken& t) { return t.Letter == c; });
+    const TToken* token =
+        std::find_if(std::begin(Tokens), std::end(Tokens), [c](const TToken& t) { return t.Letter == c; });
     if (token == std::end(Tokens)) {
       result += c == '/' ? ASettings.DateSeparator : c == ':' ? ASettings.TimeSeparator : AFormat[i];
       ++i;
@@ -288,8 +290,12 @@ bool TryStrToDate(std::string_view AText, TDateTime& AResult, const TFormatSetti
       else if (field.size() == 4) parts[dpYear] = *value;
       else return false;
       break;
-    case 'm': parts[dpMonth] = *value; break;
-    default: parts[dpDay] = *value; break;
+    case 'm':
+      parts[dpMonth] = *value;
+      break;
+    default:
+      parts[dpDay] = *value;
+      break;
     }
   }
   return TryEncodeDate(parts[dpYear], parts[dpMonth], parts[dpDay], AResult);

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // TDateTime routines. Day 0 is 1899-12-30; before it, the integral part is the day and the
 // fraction's absolute value the time (-1.25 is 1899-12-29 06:00). Years run from 1 to 9999.
 
@@ -14,8 +15,7 @@ bool TryEncodeDateTime(Word AYear, Word AMonth, Word ADay, Word AHour, Word AMin
                        TDateTime& AResult);
 TDateTime EncodeDate(Word AYear, Word AMonth, Word ADay);
 TDateTime EncodeTime(Word AHour, Word AMinute, Word ASecond, Word AMilliSecond);
-TDateTime EncodeDateTime(Word AYear, Word AMonth, Word ADay, Word AHour, Word AMinute, Word ASecond,
-                         Word AMilliSecond);
+TDateTime EncodeDateTime(Word AYear, Word AMonth, Word ADay, Word AHour, Word AMinute, Word ASecond, Word AMilliSecond);
 // The time is rounded to the nearest millisecond first, so a day may carry over.
 void DecodeDate(TDateTime ADate, Word& AYear, Word& AMonth, Word& ADay);
 void DecodeTime(TDateTime ATime, Word& AHour, Word& AMinute, Word& ASecond, Word& AMilliSecond);
@@ -73,3 +73,5 @@ TDateTime StrToDateTime(std::string_view AText);
 TDateTime StrToDateTime(std::string_view AText, const TFormatSettings& ASettings);
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

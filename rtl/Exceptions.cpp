@@ -3,8 +3,8 @@
 namespace Tarvo {
 
 void RaiseAssertion(const char* AFile, int ALine, const char* AExpression) {
-  throw EAssertionFailed(std::string("Assertion failure: ") + AExpression + " (" + AFile +
-                         ", line " + std::to_string(ALine) + ")");
+  throw EAssertionFailed(std::string("Assertion failure: ") + AExpression + " (" + AFile + ", line " +
+                         std::to_string(ALine) + ")");
 }
 
 } // namespace Tarvo

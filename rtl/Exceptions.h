@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The exception family of the runtime. Every error the runtime raises is an Exception with
 // a message; the kinds below let callers catch by meaning.
 
@@ -18,10 +19,10 @@ private:
 };
 
 // Declares an exception class that adds nothing but its meaning.
-#define TARVO_DECLARE_EXCEPTION(AName, AParent)                                                    \
-  class AName : public AParent {                                                                   \
-  public:                                                                                          \
-    using AParent::AParent;                                                                        \
+#define TARVO_DECLARE_EXCEPTION(AName, AParent)                                                                        \
+  class AName : public AParent {                                                                                       \
+  public:                                                                                                              \
+    using AParent::AParent;                                                                                            \
   };
 
 TARVO_DECLARE_EXCEPTION(EConvertError, Exception)
@@ -44,7 +45,9 @@ TARVO_DECLARE_EXCEPTION(EDesignPropertyError, Exception)
 
 } // namespace Tarvo
 
-#define TARVO_ASSERT(ACondition)                                                                   \
-  do {                                                                                             \
-    if (!(ACondition)) ::Tarvo::RaiseAssertion(__FILE__, __LINE__, #ACondition);                   \
+#define TARVO_ASSERT(ACondition)                                                                                       \
+  do {                                                                                                                 \
+    if (!(ACondition)) ::Tarvo::RaiseAssertion(__FILE__, __LINE__, #ACondition);                                       \
   } while (false)
+
+#pragma GCC visibility pop

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Globally unique identifiers of interfaces, with their text form "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}".
 
 #include <array>
@@ -75,3 +76,5 @@ consteval TGUID TGUID::Parse(std::string_view AText) {
 }
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

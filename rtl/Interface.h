@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Reference-counted interfaces. An interface is an abstract class with a static IID that derives
 // virtually from its parent interface; implementations derive virtually from the interfaces they
 // implement, so one final overrider serves every path to an operation. References are held by
@@ -19,11 +20,12 @@ using HRESULT = std::int32_t;
 inline constexpr HRESULT S_OK = 0;
 inline constexpr HRESULT E_NOINTERFACE = static_cast<HRESULT>(0x80004002u);
 
-// Declares the identity of an interface: its IID, its parent and its name.
-#define TARVO_INTERFACE(AName, AParent, AGuid)                                                      \
-public:                                                                                            \
-  static constexpr ::Tarvo::TGUID IID = ::Tarvo::TGUID::Parse(AGuid);                              \
-  using TParentInterface = AParent;                                                                \
+// Declares the identity of an interface: its name, its IID and its parent. The parent comes last
+// so that a template parent may hold commas: TARVO_INTERFACE(IDictionary, AGuid, IPairs<K, V>).
+#define TARVO_INTERFACE(AName, AGuid, ...)                                                                             \
+public:                                                                                                                \
+  static constexpr ::Tarvo::TGUID IID = ::Tarvo::TGUID::Parse(AGuid);                                                  \
+  using TParentInterface = __VA_ARGS__;                                                                                \
   static constexpr const char* InterfaceName = #AName;
 
 class IInterface {
@@ -54,11 +56,11 @@ public:
   TRef(const TRef& AOther) noexcept : FPtr(AOther.FPtr) { AddRef(); }
   TRef(TRef&& AOther) noexcept : FPtr(std::exchange(AOther.FPtr, nullptr)) {}
   template <class J>
-    requires std::is_convertible_v<J*, I*>
-  TRef(const TRef<J>& AOther) noexcept : FPtr(AOther.get()) { AddRef(); }
+    requires std::is_convertible_v<J*, I*> TRef(const TRef<J>& AOther)
+  noexcept : FPtr(AOther.get()) { AddRef(); }
   template <class J>
-    requires std::is_convertible_v<J*, I*>
-  TRef(TRef<J>&& AOther) noexcept : FPtr(AOther.Detach()) {}
+    requires std::is_convertible_v<J*, I*> TRef(TRef<J>&& AOther)
+  noexcept : FPtr(AOther.Detach()) {}
   ~TRef() { Release(); }
 
   TRef& operator=(TRef AOther) noexcept {
@@ -157,3 +159,5 @@ template <class I> struct std::hash<Tarvo::TRef<I>> {
     return std::hash<const void*>()(Tarvo::InterfaceIdentity(ARef.get()));
   }
 };
+
+#pragma GCC visibility pop

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The standard reference-counted object. During construction its count is held at one, so that
 // handing out a reference to itself from a constructor cannot destroy it; AfterConstruction
 // lowers the count again. Build instances with New<T>(...).
@@ -45,3 +46,5 @@ template <class T, class... AArgs> TRef<T> New(AArgs&&... AArgsList) {
 }
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -11,6 +11,7 @@
 #include <memory>
 
 #include "rtl/Exceptions.h"
+#include "rtl/KeyedHandlers.h"
 
 namespace Tarvo {
 
@@ -24,8 +25,7 @@ std::string ResourceKey(const std::string& AName) {
 
 struct TModuleRegistry {
   std::vector<std::unique_ptr<TModule>> Modules;
-  std::map<int, TModuleUnloadProc> UnloadProcs;
-  int NextKey = 1;
+  TKeyedHandlers<TModule*> UnloadProcs;
 
   TModule* ByBase(const void* ABase) {
     for (auto& m : Modules)
@@ -82,24 +82,16 @@ TModule* LoadModule(const std::string& APath) {
 
 void UnloadModule(TModule* AModule) {
   TModuleRegistry& registry = Registry();
-  if (!AModule || !AModule->IsLoaded())
-    throw EModuleError("Only a module opened by LoadModule can be unloaded");
-  // A procedure may add or remove procedures; run the ones present now.
-  const auto procs = registry.UnloadProcs;
-  for (const auto& [key, proc] : procs) proc(AModule);
+  if (!AModule || !AModule->IsLoaded()) throw EModuleError("Only a module opened by LoadModule can be unloaded");
+  registry.UnloadProcs.Run(AModule);
   void* handle = AModule->FHandle;
   std::erase_if(registry.Modules, [AModule](const auto& m) { return m.get() == AModule; });
   dlclose(handle);
 }
 
-int AddModuleUnloadProc(TModuleUnloadProc AProc) {
-  TModuleRegistry& registry = Registry();
-  const int key = registry.NextKey++;
-  registry.UnloadProcs.emplace(key, std::move(AProc));
-  return key;
-}
+int AddModuleUnloadProc(TModuleUnloadProc AProc) { return Registry().UnloadProcs.Add(std::move(AProc)); }
 
-void RemoveModuleUnloadProc(int AKey) { Registry().UnloadProcs.erase(AKey); }
+void RemoveModuleUnloadProc(int AKey) { Registry().UnloadProcs.Remove(AKey); }
 
 std::vector<TModule*> Modules() {
   std::vector<TModule*> result;

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Modules: the executable and each shared library. Classes, type records and named resources
 // know the module that holds them (found by address), so that when a module goes away every
 // registry can sweep out what refers to it.
@@ -70,3 +71,5 @@ struct TResourceRegistration {
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -5,8 +5,7 @@
 
 namespace Tarvo {
 
-TMetaClass::TMetaClass(const char* AName, TClass AParent, TFactory AFactory)
-    : FParent(AParent), FFactory(AFactory) {
+TMetaClass::TMetaClass(const char* AName, TClass AParent, TFactory AFactory) : FParent(AParent), FFactory(AFactory) {
   FTypeRecord.Kind = tkClass;
   FTypeRecord.Name = AName;
   FTypeRecord.Ops = &TypeOpsOf<TObject*>;

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // TObject, the root of reflected classes, and its metaclass objects. A class reference (TClass)
 // points at the metaclass: name, parent, owning module, and for classes of a hierarchy that
 // constructs through a virtual constructor, a typed factory.
@@ -7,6 +8,7 @@
 #include <string>
 #include <type_traits>
 
+#include "rtl/Export.h"
 #include "rtl/Interface.h"
 #include "rtl/TypeRecords.h"
 
@@ -68,6 +70,11 @@ public:
 
   // Ends an object that is not reference-counted; nil is allowed.
   static void Free(TObject* AObject);
+
+  // The root's part in the parent check of TARVO_CLASS.
+  template <class ASelf>
+    requires(!std::is_same_v<ASelf, TObject>)
+  friend TObject* TarvoReflectedBase(TObject*, ASelf*);
 };
 
 // Builds a plain object: constructor, then AfterConstruction.
@@ -147,8 +154,8 @@ public:
   // The virtual constructor: builds an instance of the referenced class.
   template <class... AArgs> TBase* Create(AArgs&&... AArgsList) const {
     if (!FClass->Factory()) Detail::RaiseAbstractClass(FClass);
-    TObject* instance = Detail::TFactoryCall<typename TBase::TConstructor>::Call(
-        FClass->Factory(), std::forward<AArgs>(AArgsList)...);
+    TObject* instance =
+        Detail::TFactoryCall<typename TBase::TConstructor>::Call(FClass->Factory(), std::forward<AArgs>(AArgsList)...);
     return static_cast<TBase*>(instance);
   }
 
@@ -173,19 +180,52 @@ TClass FindClass(const std::string& AName);
 
 } // namespace Tarvo
 
-// Inside a class body: makes the class a reflected class with its own metaclass.
-// The parent is the direct base, so that inherited:: calls reach it (it may be a TImplements<...>).
-#define TARVO_CLASS(AClass, ...)                                                                   \
-public:                                                                                            \
-  using inherited = __VA_ARGS__;                                                                   \
-  static ::Tarvo::TClass ClassInfo();                                                              \
-  ::Tarvo::TClass ClassType() const override { return ClassInfo(); }
+#define TARVO_CONCAT_(A, B) A##B
+#define TARVO_CONCAT(A, B) TARVO_CONCAT_(A, B)
 
-// In the class's source file: defines the metaclass and registers the class.
-#define TARVO_IMPLEMENT_CLASS(AClass)                                                              \
-  ::Tarvo::TClass AClass::ClassInfo() {                                                            \
-    static const ::Tarvo::TMetaClass LMetaClass(#AClass, AClass::inherited::ClassInfo(),          \
-                                                ::Tarvo::Detail::FactoryFor<AClass>());             \
-    return &LMetaClass;                                                                            \
-  }                                                                                                \
-  static const ::Tarvo::TClassRegistration AClass##_Registration(AClass::ClassInfo());
+namespace Tarvo::Detail {
+// Every reflected class declares, as a hidden friend, one overload of TarvoReflectedBase for
+// itself. Overload resolution on a pointer to a class then picks its nearest reflected ancestor
+// (the class itself is left out through ASelf), and on a pointer to a parent, the parent or its
+// nearest reflected ancestor. The two agree exactly when the parent a class names is its direct
+// base, or a helper between them such as TImplements<...>.
+template <class AClass, class AParent>
+concept CNamesDirectParent =
+    std::is_same_v<decltype(TarvoReflectedBase(static_cast<AClass*>(nullptr), static_cast<AClass*>(nullptr))),
+                   decltype(TarvoReflectedBase(static_cast<AParent*>(nullptr), static_cast<void*>(nullptr)))>;
+} // namespace Tarvo::Detail
+
+// Inside a class body: makes the class a reflected class with its own metaclass. The parent is the
+// direct base, so that inherited:: calls reach it (it may be a TImplements<...>, commas and all).
+// A class name or a parent that does not match the C++ class does not compile.
+#define TARVO_CLASS(AClass, ...)                                                                                       \
+public:                                                                                                                \
+  using inherited = __VA_ARGS__;                                                                                       \
+  static constexpr const char* TarvoClassName = #AClass;                                                               \
+  static ::Tarvo::TClass ClassInfo();                                                                                  \
+  ::Tarvo::TClass ClassType() const override { return ClassInfo(); }                                                   \
+  template <class ASelf>                                                                                               \
+    requires(!std::is_same_v<ASelf, AClass>)                                                                           \
+  friend AClass* TarvoReflectedBase(AClass*, ASelf*);                                                                  \
+                                                                                                                       \
+private:                                                                                                               \
+  void TarvoCheckClass() const {                                                                                       \
+    static_assert(std::is_same_v<std::remove_cvref_t<decltype(*this)>, AClass>,                                        \
+                  "TARVO_CLASS(" #AClass ", ...) stands in another class's body");                                     \
+    static_assert(::Tarvo::Detail::CNamesDirectParent<AClass, inherited>,                                              \
+                  "TARVO_CLASS(" #AClass ", " #__VA_ARGS__ "): the parent is not the class's direct base");            \
+  }                                                                                                                    \
+                                                                                                                       \
+public:
+
+// In the class's source file: defines the metaclass and registers the class. The class may be
+// named with its namespace (TARVO_IMPLEMENT_CLASS(Acme::TThermostat)).
+#define TARVO_IMPLEMENT_CLASS(...)                                                                                     \
+  ::Tarvo::TClass __VA_ARGS__::ClassInfo() {                                                                           \
+    static const ::Tarvo::TMetaClass LMetaClass(__VA_ARGS__::TarvoClassName, __VA_ARGS__::inherited::ClassInfo(),      \
+                                                ::Tarvo::Detail::FactoryFor<__VA_ARGS__>());                           \
+    return &LMetaClass;                                                                                                \
+  }                                                                                                                    \
+  static const ::Tarvo::TClassRegistration TARVO_CONCAT(TarvoClassRegistration, __COUNTER__)(__VA_ARGS__::ClassInfo());
+
+#pragma GCC visibility pop

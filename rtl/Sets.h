@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Sets over enumerations declared with TARVO_ENUM: a bit for each value, held in the smallest of
 // 1, 2 or 4 bytes, or in as many bytes as the values need beyond 32.
 
@@ -30,9 +31,15 @@ public:
   }
   constexpr bool IsEmpty() const { return *this == TSet(); }
 
-  friend constexpr TSet operator+(TSet A, const TSet& B) { return A.Combine(B, [](Byte x, Byte y) { return Byte(x | y); }); }
-  friend constexpr TSet operator-(TSet A, const TSet& B) { return A.Combine(B, [](Byte x, Byte y) { return Byte(x & ~y); }); }
-  friend constexpr TSet operator*(TSet A, const TSet& B) { return A.Combine(B, [](Byte x, Byte y) { return Byte(x & y); }); }
+  friend constexpr TSet operator+(TSet A, const TSet& B) {
+    return A.Combine(B, [](Byte x, Byte y) { return Byte(x | y); });
+  }
+  friend constexpr TSet operator-(TSet A, const TSet& B) {
+    return A.Combine(B, [](Byte x, Byte y) { return Byte(x & ~y); });
+  }
+  friend constexpr TSet operator*(TSet A, const TSet& B) {
+    return A.Combine(B, [](Byte x, Byte y) { return Byte(x & y); });
+  }
   friend constexpr bool operator==(const TSet&, const TSet&) = default;
 
 private:
@@ -46,12 +53,13 @@ private:
 };
 
 // Declares a set type over an enumeration, with its record: TARVO_SET(TAnchors, TAnchorKind).
-#define TARVO_SET(AName, AElement)                                                                 \
-  using AName = ::Tarvo::TSet<AElement>;                                                           \
+#define TARVO_SET(AName, AElement)                                                                                     \
+  using AName = ::Tarvo::TSet<AElement>;                                                                               \
   TARVO_DECLARE_TYPE_RECORD(AName, TypeInfo_##AName)
 
-#define TARVO_IMPLEMENT_SET(AName, AElement)                                                       \
-  constinit const ::Tarvo::TTypeInfo TypeInfo_##AName =                                            \
-      ::Tarvo::SetTypeRecord<AName>(#AName, &TypeInfo_##AElement);
+#define TARVO_IMPLEMENT_SET(AName, AElement)                                                                           \
+  constinit const ::Tarvo::TTypeInfo TypeInfo_##AName = ::Tarvo::SetTypeRecord<AName>(#AName, &TypeInfo_##AElement);
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

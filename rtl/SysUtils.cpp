@@ -200,7 +200,8 @@ String FloatToStrPrec(Extended AValue, int APrecision, const TFormatSettings& AS
   APrecision = std::clamp(APrecision, 1, 20);
   // The rounded digits and decimal exponent, as "-d.ddde+XX".
   char buffer[64];
-  const auto written = std::to_chars(buffer, buffer + sizeof buffer, AValue, std::chars_format::scientific, APrecision - 1);
+  const auto written =
+      std::to_chars(buffer, buffer + sizeof buffer, AValue, std::chars_format::scientific, APrecision - 1);
   const std::string_view scientific(buffer, std::size_t(written.ptr - buffer));
   const std::size_t e = scientific.find('e');
   String digits;
@@ -390,8 +391,9 @@ private:
     switch (AType) {
     case 'd':
       if (!integral) break;
-      return AArg.Kind() == TKind::Signed ? MinDigits(AArg.AsSigned() < 0, IntToStr(UnsignedAbs(AArg.AsSigned())), APrecision)
-                                          : MinDigits(false, IntToStr(AArg.Bits()), APrecision);
+      return AArg.Kind() == TKind::Signed
+                 ? MinDigits(AArg.AsSigned() < 0, IntToStr(UnsignedAbs(AArg.AsSigned())), APrecision)
+                 : MinDigits(false, IntToStr(AArg.Bits()), APrecision);
     case 'u':
       if (!integral) break;
       return MinDigits(false, IntToStr(AArg.Bits()), APrecision);
@@ -408,7 +410,8 @@ private:
       if (AArg.Kind() != TKind::Float) break;
       return FloatToStrPrec(AArg.AsFloat(), int(std::min<std::size_t>(APrecision.value_or(ExtendedPrecision), 20)),
                             FSettings);
-    default: break;
+    default:
+      break;
     }
     RaiseInvalid();
   }
@@ -424,7 +427,8 @@ private:
     if (auto text = NonFiniteText(AValue)) return *text;
     // Room for the largest Extended written out in full.
     String text(5100, '\0');
-    const auto written = std::to_chars(text.data(), text.data() + text.size(), AValue, std::chars_format::fixed, int(ADecimals));
+    const auto written =
+        std::to_chars(text.data(), text.data() + text.size(), AValue, std::chars_format::fixed, int(ADecimals));
     text.resize(std::size_t(written.ptr - text.data()));
     std::replace(text.begin(), text.end(), '.', FSettings.DecimalSeparator);
     return text;

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Text routines: comparison, trimming, integer and float conversions, Format. Routines whose
 // output depends on separators read the process-wide FormatSettings unless given their own.
 
@@ -140,3 +141,5 @@ String Format(std::string_view AFormat, std::initializer_list<TFormatArg> AArgs)
 String Format(std::string_view AFormat, std::initializer_list<TFormatArg> AArgs, const TFormatSettings& ASettings);
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,9 +1,11 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Run-time type records: static, unique per type. Named types that share a C++ representation
 // (TColor and Integer, TDate and Double) have records of their own. Ordinal records carry their
 // declared limits as 32-bit fields, as the classic layout does: a Cardinal's maximum reads -1.
 
 #include <array>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -23,9 +25,28 @@ class TModule;
 class Variant;
 
 enum TTypeKind : std::uint8_t {
-  tkUnknown, tkInteger, tkChar, tkEnumeration, tkFloat, tkString, tkSet, tkClass, tkMethod, tkWChar,
-  tkLString, tkWString, tkVariant, tkArray, tkRecord, tkInterface, tkInt64, tkDynArray, tkUString,
-  tkClassRef, tkPointer, tkProcedure
+  tkUnknown,
+  tkInteger,
+  tkChar,
+  tkEnumeration,
+  tkFloat,
+  tkString,
+  tkSet,
+  tkClass,
+  tkMethod,
+  tkWChar,
+  tkLString,
+  tkWString,
+  tkVariant,
+  tkArray,
+  tkRecord,
+  tkInterface,
+  tkInt64,
+  tkDynArray,
+  tkUString,
+  tkClassRef,
+  tkPointer,
+  tkProcedure
 };
 
 // Width and signedness of an ordinal; the two 64-bit forms belong to tkInt64.
@@ -42,7 +63,8 @@ struct TTypeOps {
   void (*Destroy)(void* AData);
 };
 
-template <class T> inline constexpr TTypeOps TypeOpsOf{
+template <class T>
+inline constexpr TTypeOps TypeOpsOf{
     sizeof(T),
     alignof(T),
     std::is_trivially_copyable_v<T>,
@@ -81,7 +103,9 @@ struct TTypeInfo {
 
   std::size_t DataSize() const { return Ops ? Ops->Size : 0; }
   bool IsOrdinal() const;
-  bool IsUnsigned() const { return OrdType == otUByte || OrdType == otUWord || OrdType == otULong || OrdType == otUQWord; }
+  bool IsUnsigned() const {
+    return OrdType == otUByte || OrdType == otUWord || OrdType == otULong || OrdType == otUQWord;
+  }
   // The declared limits widened to 64 bits with their signedness honoured.
   Int64 OrdinalMin() const;
   Int64 OrdinalMax() const; // for unsigned 64-bit types the bit pattern of the maximum
@@ -141,8 +165,7 @@ constexpr TTypeInfo StringTypeRecord(const char* AName, TTypeKind AKind) {
   return TypeRecordOfKind<String>(AName, AKind);
 }
 
-template <class E>
-constexpr TTypeInfo EnumTypeRecord(const char* AName, std::span<const std::string_view> ANames) {
+template <class E> constexpr TTypeInfo EnumTypeRecord(const char* AName, std::span<const std::string_view> ANames) {
   TTypeInfo r = TypeRecordOfKind<E>(AName, tkEnumeration);
   if constexpr (std::is_enum_v<E>) r.OrdType = OrdTypeOf<std::underlying_type_t<E>>();
   else r.OrdType = OrdTypeOf<E>();
@@ -182,36 +205,50 @@ template <std::size_t N> consteval std::array<std::string_view, N> SplitEnumName
 
 // ---- From a C++ type to its record ----
 
-// Specialised for every C++ type that has a default record.
+// The record of a C++ type. Built-in types are specialised here; every other type names its
+// record through a function TarvoTypeRecord(T*) in its own namespace, found by argument-dependent
+// lookup, so that types of any namespace (a component module's own) can have records.
 template <class T> struct TTypeRecordOf;
+template <class T>
+  requires requires(T* AType) {
+    { TarvoTypeRecord(AType) } -> std::same_as<PTypeInfo>;
+  }
+struct TTypeRecordOf<T> {
+  static PTypeInfo Get() { return TarvoTypeRecord(static_cast<T*>(nullptr)); }
+};
 template <class T> PTypeInfo TypeInfo() { return TTypeRecordOf<std::remove_cvref_t<T>>::Get(); }
 
-#define TARVO_DECLARE_TYPE_RECORD(AType, ARecord)                                                  \
-  extern const ::Tarvo::TTypeInfo ARecord;                                                         \
-  template <> struct TTypeRecordOf<AType> {                                                        \
-    static ::Tarvo::PTypeInfo Get() { return &ARecord; }                                           \
+// Declares the record of a class or enumeration type; use in the type's own namespace.
+#define TARVO_DECLARE_TYPE_RECORD(AType, ARecord)                                                                      \
+  extern const ::Tarvo::TTypeInfo ARecord;                                                                             \
+  inline ::Tarvo::PTypeInfo TarvoTypeRecord(AType*) { return &ARecord; }
+
+#define TARVO_BUILTIN_TYPE_RECORD(AType, ARecord)                                                                      \
+  extern const ::Tarvo::TTypeInfo ARecord;                                                                             \
+  template <> struct TTypeRecordOf<AType> {                                                                            \
+    static ::Tarvo::PTypeInfo Get() { return &ARecord; }                                                               \
   };
 
 // Built-in records. Records of named types without a C++ type of their own are reached by name.
-TARVO_DECLARE_TYPE_RECORD(Integer, TypeInfo_Integer)
-TARVO_DECLARE_TYPE_RECORD(Cardinal, TypeInfo_Cardinal)
-TARVO_DECLARE_TYPE_RECORD(ShortInt, TypeInfo_ShortInt)
-TARVO_DECLARE_TYPE_RECORD(SmallInt, TypeInfo_SmallInt)
-TARVO_DECLARE_TYPE_RECORD(Byte, TypeInfo_Byte)
-TARVO_DECLARE_TYPE_RECORD(Word, TypeInfo_Word)
-TARVO_DECLARE_TYPE_RECORD(Int64, TypeInfo_Int64)
-TARVO_DECLARE_TYPE_RECORD(UInt64, TypeInfo_UInt64)
-TARVO_DECLARE_TYPE_RECORD(Boolean, TypeInfo_Boolean)
-TARVO_DECLARE_TYPE_RECORD(AnsiChar, TypeInfo_AnsiChar)
-TARVO_DECLARE_TYPE_RECORD(WideChar, TypeInfo_WideChar)
-TARVO_DECLARE_TYPE_RECORD(Single, TypeInfo_Single)
-TARVO_DECLARE_TYPE_RECORD(Double, TypeInfo_Double)
-TARVO_DECLARE_TYPE_RECORD(Extended, TypeInfo_Extended)
-TARVO_DECLARE_TYPE_RECORD(Currency, TypeInfo_Currency)
-TARVO_DECLARE_TYPE_RECORD(String, TypeInfo_String)
-TARVO_DECLARE_TYPE_RECORD(Variant, TypeInfo_Variant)
-TARVO_DECLARE_TYPE_RECORD(const TMetaClass*, TypeInfo_TClass)
-TARVO_DECLARE_TYPE_RECORD(void*, TypeInfo_Pointer)
+TARVO_BUILTIN_TYPE_RECORD(Integer, TypeInfo_Integer)
+TARVO_BUILTIN_TYPE_RECORD(Cardinal, TypeInfo_Cardinal)
+TARVO_BUILTIN_TYPE_RECORD(ShortInt, TypeInfo_ShortInt)
+TARVO_BUILTIN_TYPE_RECORD(SmallInt, TypeInfo_SmallInt)
+TARVO_BUILTIN_TYPE_RECORD(Byte, TypeInfo_Byte)
+TARVO_BUILTIN_TYPE_RECORD(Word, TypeInfo_Word)
+TARVO_BUILTIN_TYPE_RECORD(Int64, TypeInfo_Int64)
+TARVO_BUILTIN_TYPE_RECORD(UInt64, TypeInfo_UInt64)
+TARVO_BUILTIN_TYPE_RECORD(Boolean, TypeInfo_Boolean)
+TARVO_BUILTIN_TYPE_RECORD(AnsiChar, TypeInfo_AnsiChar)
+TARVO_BUILTIN_TYPE_RECORD(WideChar, TypeInfo_WideChar)
+TARVO_BUILTIN_TYPE_RECORD(Single, TypeInfo_Single)
+TARVO_BUILTIN_TYPE_RECORD(Double, TypeInfo_Double)
+TARVO_BUILTIN_TYPE_RECORD(Extended, TypeInfo_Extended)
+TARVO_BUILTIN_TYPE_RECORD(Currency, TypeInfo_Currency)
+TARVO_BUILTIN_TYPE_RECORD(String, TypeInfo_String)
+TARVO_BUILTIN_TYPE_RECORD(Variant, TypeInfo_Variant)
+TARVO_BUILTIN_TYPE_RECORD(const TMetaClass*, TypeInfo_TClass)
+TARVO_BUILTIN_TYPE_RECORD(void*, TypeInfo_Pointer)
 extern const TTypeInfo TypeInfo_NativeInt; // same C++ type as Int64 here
 extern const TTypeInfo TypeInfo_Real;
 extern const TTypeInfo TypeInfo_TDateTime;
@@ -226,22 +263,45 @@ std::span<const PTypeInfo> BuiltinTypeRecords();
 
 // ---- Enumerations and sets declared by the program ----
 
-template <class E> struct TEnumTraits; // Count: the number of values
+namespace Detail {
+// The names of TARVO_ENUM must be plain identifiers: no initialiser, none left empty.
+consteval bool IsPlainEnumList(std::string_view AText) {
+  std::size_t start = 0;
+  while (true) {
+    const std::size_t comma = AText.find(',', start);
+    std::string_view part = AText.substr(start, comma == std::string_view::npos ? AText.npos : comma - start);
+    while (!part.empty() && (part.front() == ' ' || part.front() == '\n')) part.remove_prefix(1);
+    while (!part.empty() && (part.back() == ' ' || part.back() == '\n')) part.remove_suffix(1);
+    if (part.empty() || (part.front() >= '0' && part.front() <= '9')) return false;
+    for (char c : part)
+      if (!((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_')) return false;
+    if (comma == std::string_view::npos) return true;
+    start = comma + 1;
+  }
+}
+} // namespace Detail
 
-// Declares an enumeration with its record: TARVO_ENUM(TAlign, alNone, alTop, alBottom).
-// The values are contiguous from 0 and their names are the identifiers as written.
-#define TARVO_ENUM(AName, ...)                                                                     \
-  enum AName : ::Tarvo::Byte { __VA_ARGS__ };                                                      \
-  inline constexpr auto AName##_Names =                                                            \
-      ::Tarvo::SplitEnumNames<::Tarvo::CountEnumNames(#__VA_ARGS__)>(#__VA_ARGS__);                \
-  template <> struct TEnumTraits<AName> {                                                          \
-    static constexpr std::size_t Count = AName##_Names.size();                                     \
-  };                                                                                               \
+// The number of values of an enumeration declared with TARVO_ENUM.
+template <class E> struct TEnumTraits {
+  static constexpr std::size_t Count = TarvoEnumCount(static_cast<E*>(nullptr));
+};
+
+// Declares an enumeration with its record, in any namespace: TARVO_ENUM(TAlign, alNone, alTop).
+// The values are contiguous from 0 and their names are the identifiers as written; an
+// initialiser or an empty name does not compile.
+#define TARVO_ENUM(AName, ...)                                                                                         \
+  enum AName : ::Tarvo::Byte { __VA_ARGS__ };                                                                          \
+  static_assert(::Tarvo::Detail::IsPlainEnumList(#__VA_ARGS__),                                                        \
+                "TARVO_ENUM(" #AName ", ...) takes plain names: no '=' initialiser, no empty name");                   \
+  inline constexpr auto AName##_Names = ::Tarvo::SplitEnumNames<::Tarvo::CountEnumNames(#__VA_ARGS__)>(#__VA_ARGS__);  \
+  constexpr std::size_t TarvoEnumCount(AName*) { return AName##_Names.size(); }                                        \
   TARVO_DECLARE_TYPE_RECORD(AName, TypeInfo_##AName)
 
-// In one source file: defines the record of an enumeration declared with TARVO_ENUM.
-#define TARVO_IMPLEMENT_ENUM(AName)                                                                \
-  constinit const ::Tarvo::TTypeInfo TypeInfo_##AName =                                            \
-      ::Tarvo::EnumTypeRecord<AName>(#AName, AName##_Names);
+// In one source file, in the enumeration's namespace: defines the record of an enumeration
+// declared with TARVO_ENUM.
+#define TARVO_IMPLEMENT_ENUM(AName)                                                                                    \
+  constinit const ::Tarvo::TTypeInfo TypeInfo_##AName = ::Tarvo::EnumTypeRecord<AName>(#AName, AName##_Names);
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

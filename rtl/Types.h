@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The base value types of the runtime. Named types that share a representation (TDate and
 // TDateTime, TColor and Integer) are aliases here; their distinct identity lives in their type
 // records, not in the C++ type.
@@ -44,3 +45,5 @@ struct Currency {
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -19,7 +19,9 @@ struct TValue::TBox {
 
   explicit TBox(PTypeInfo AType) : Type(AType) {}
   void* Data() { return reinterpret_cast<unsigned char*>(this) + HeaderSize; }
-  static std::align_val_t Alignment(PTypeInfo AType) { return std::align_val_t(std::max<std::size_t>(16, AType->Ops->Align)); }
+  static std::align_val_t Alignment(PTypeInfo AType) {
+    return std::align_val_t(std::max<std::size_t>(16, AType->Ops->Align));
+  }
 
   static TBox* Create(PTypeInfo AType, const void* ASource) {
     void* memory = ::operator new(HeaderSize + AType->Ops->Size, Alignment(AType));
@@ -57,10 +59,14 @@ template <class T> TValue MakeOf(PTypeInfo AType, const T& AData) { return TValu
 // Writes an ordinal into a value of AType's representation.
 TValue MakeOrdinal(PTypeInfo AType, Int64 AValue) {
   switch (AType->Ops->Size) {
-  case 1: return MakeOf<std::uint8_t>(AType, static_cast<std::uint8_t>(AValue));
-  case 2: return MakeOf<std::uint16_t>(AType, static_cast<std::uint16_t>(AValue));
-  case 4: return MakeOf<std::uint32_t>(AType, static_cast<std::uint32_t>(AValue));
-  default: return MakeOf<std::uint64_t>(AType, static_cast<std::uint64_t>(AValue));
+  case 1:
+    return MakeOf<std::uint8_t>(AType, static_cast<std::uint8_t>(AValue));
+  case 2:
+    return MakeOf<std::uint16_t>(AType, static_cast<std::uint16_t>(AValue));
+  case 4:
+    return MakeOf<std::uint32_t>(AType, static_cast<std::uint32_t>(AValue));
+  default:
+    return MakeOf<std::uint64_t>(AType, static_cast<std::uint64_t>(AValue));
   }
 }
 
@@ -74,11 +80,16 @@ bool FitsOrdinal(PTypeInfo AType, Int64 AValue, bool ASourceUnsigned64) {
 
 TValue MakeFloat(PTypeInfo AType, Extended AValue) {
   switch (AType->FloatType) {
-  case ftSingle: return MakeOf<Single>(AType, static_cast<Single>(AValue));
-  case ftDouble: return MakeOf<Double>(AType, static_cast<Double>(AValue));
-  case ftExtended: return MakeOf<Extended>(AType, AValue);
-  case ftCurr: return MakeOf<Currency>(AType, Currency::FromDouble(AValue));
-  case ftComp: return MakeOf<Int64>(AType, static_cast<Int64>(AValue));
+  case ftSingle:
+    return MakeOf<Single>(AType, static_cast<Single>(AValue));
+  case ftDouble:
+    return MakeOf<Double>(AType, static_cast<Double>(AValue));
+  case ftExtended:
+    return MakeOf<Extended>(AType, AValue);
+  case ftCurr:
+    return MakeOf<Currency>(AType, Currency::FromDouble(AValue));
+  case ftComp:
+    return MakeOf<Int64>(AType, static_cast<Int64>(AValue));
   }
   return {};
 }
@@ -110,7 +121,8 @@ bool Utf8ToWideChar(const String& AText, WideChar& AResult) {
   const auto* p = reinterpret_cast<const unsigned char*>(AText.data());
   const std::size_t n = AText.size();
   if (n == 1 && p[0] < 0x80) AResult = p[0];
-  else if (n == 2 && (p[0] & 0xE0) == 0xC0 && (p[1] & 0xC0) == 0x80) AResult = WideChar((p[0] & 0x1F) << 6 | (p[1] & 0x3F));
+  else if (n == 2 && (p[0] & 0xE0) == 0xC0 && (p[1] & 0xC0) == 0x80)
+    AResult = WideChar((p[0] & 0x1F) << 6 | (p[1] & 0x3F));
   else if (n == 3 && (p[0] & 0xF0) == 0xE0 && (p[1] & 0xC0) == 0x80 && (p[2] & 0xC0) == 0x80)
     AResult = WideChar((p[0] & 0x0F) << 12 | (p[1] & 0x3F) << 6 | (p[2] & 0x3F));
   else return false;
@@ -197,7 +209,8 @@ void TValue::Reset() noexcept {
 }
 
 TValue::TValue(TObject* AObject)
-    : TValue(Make(&AObject, AObject ? AObject->ClassType()->ClassTypeRecord() : TObject::ClassInfo()->ClassTypeRecord())) {}
+    : TValue(Make(&AObject,
+                  AObject ? AObject->ClassType()->ClassTypeRecord() : TObject::ClassInfo()->ClassTypeRecord())) {}
 TValue::TValue(const String& AText) : TValue(Make(&AText, &TypeInfo_String)) {}
 TValue::TValue(const char* AText) : TValue(String(AText ? AText : "")) {}
 TValue::TValue(Boolean AValue) : TValue(Make(&AValue, &TypeInfo_Boolean)) {}
@@ -244,10 +257,20 @@ bool TValue::ReadOrdinal(Int64& AResult) const {
   const void* data = GetReferenceToRawData();
   const bool isSigned = !FTypeInfo->IsUnsigned();
   switch (FTypeInfo->Ops->Size) {
-  case 1: AResult = isSigned ? Int64(*static_cast<const std::int8_t*>(data)) : Int64(*static_cast<const std::uint8_t*>(data)); break;
-  case 2: AResult = isSigned ? Int64(*static_cast<const std::int16_t*>(data)) : Int64(*static_cast<const std::uint16_t*>(data)); break;
-  case 4: AResult = isSigned ? Int64(*static_cast<const std::int32_t*>(data)) : Int64(*static_cast<const std::uint32_t*>(data)); break;
-  default: std::memcpy(&AResult, data, sizeof AResult); break;
+  case 1:
+    AResult = isSigned ? Int64(*static_cast<const std::int8_t*>(data)) : Int64(*static_cast<const std::uint8_t*>(data));
+    break;
+  case 2:
+    AResult =
+        isSigned ? Int64(*static_cast<const std::int16_t*>(data)) : Int64(*static_cast<const std::uint16_t*>(data));
+    break;
+  case 4:
+    AResult =
+        isSigned ? Int64(*static_cast<const std::int32_t*>(data)) : Int64(*static_cast<const std::uint32_t*>(data));
+    break;
+  default:
+    std::memcpy(&AResult, data, sizeof AResult);
+    break;
   }
   return true;
 }
@@ -256,11 +279,21 @@ bool TValue::ReadFloat(Extended& AResult) const {
   if (GetTypeKind() != tkFloat) return false;
   const void* data = GetReferenceToRawData();
   switch (FTypeInfo->FloatType) {
-  case ftSingle: AResult = *static_cast<const Single*>(data); break;
-  case ftDouble: AResult = *static_cast<const Double*>(data); break;
-  case ftExtended: AResult = *static_cast<const Extended*>(data); break;
-  case ftCurr: AResult = static_cast<const Currency*>(data)->ToExtended(); break;
-  case ftComp: AResult = Extended(*static_cast<const Int64*>(data)); break;
+  case ftSingle:
+    AResult = *static_cast<const Single*>(data);
+    break;
+  case ftDouble:
+    AResult = *static_cast<const Double*>(data);
+    break;
+  case ftExtended:
+    AResult = *static_cast<const Extended*>(data);
+    break;
+  case ftCurr:
+    AResult = static_cast<const Currency*>(data)->ToExtended();
+    break;
+  case ftComp:
+    AResult = Extended(*static_cast<const Int64*>(data));
+    break;
   }
   return true;
 }
@@ -346,21 +379,30 @@ Variant TValue::AsVariant() const {
   if (IsEmpty()) return Variant();
   const void* data = GetReferenceToRawData();
   switch (FTypeInfo->Kind) {
-  case tkVariant: return *static_cast<const Variant*>(data);
+  case tkVariant:
+    return *static_cast<const Variant*>(data);
   case tkEnumeration:
     if (FTypeInfo == &TypeInfo_Boolean) return Variant(AsBoolean());
     return Variant(static_cast<Integer>(AsOrdinal()));
   case tkInteger:
   case tkInt64:
     switch (FTypeInfo->OrdType) {
-    case otSByte: return Variant(*static_cast<const ShortInt*>(data));
-    case otUByte: return Variant(*static_cast<const Byte*>(data));
-    case otSWord: return Variant(*static_cast<const SmallInt*>(data));
-    case otUWord: return Variant(*static_cast<const Word*>(data));
-    case otSLong: return Variant(*static_cast<const Integer*>(data));
-    case otULong: return Variant(*static_cast<const Cardinal*>(data));
-    case otSQWord: return Variant(*static_cast<const Int64*>(data));
-    case otUQWord: return Variant(*static_cast<const UInt64*>(data));
+    case otSByte:
+      return Variant(*static_cast<const ShortInt*>(data));
+    case otUByte:
+      return Variant(*static_cast<const Byte*>(data));
+    case otSWord:
+      return Variant(*static_cast<const SmallInt*>(data));
+    case otUWord:
+      return Variant(*static_cast<const Word*>(data));
+    case otSLong:
+      return Variant(*static_cast<const Integer*>(data));
+    case otULong:
+      return Variant(*static_cast<const Cardinal*>(data));
+    case otSQWord:
+      return Variant(*static_cast<const Int64*>(data));
+    case otUQWord:
+      return Variant(*static_cast<const UInt64*>(data));
     }
     break;
   case tkFloat:
@@ -368,7 +410,8 @@ Variant TValue::AsVariant() const {
     if (FTypeInfo->FloatType == ftSingle) return Variant(*static_cast<const Single*>(data));
     if (IsDateType(FTypeInfo)) return Variant::FromDate(*static_cast<const TDateTime*>(data));
     return Variant(static_cast<Double>(AsExtended()));
-  case tkClass: return Variant::FromDispatch(AsObject());
+  case tkClass:
+    return Variant::FromDispatch(AsObject());
   default: {
     String text;
     if (ReadText(text)) return Variant(text);
@@ -401,8 +444,10 @@ String TValue::ToString() const {
     if (FTypeInfo->FloatType == ftCurr) return CurrToStr(AsCurrency());
     if (FTypeInfo->FloatType == ftSingle) return FloatToStr(*static_cast<const Single*>(data));
     return FloatToStr(AsExtended());
-  case tkSet: return SetToString(*this);
-  case tkVariant: return VarToStr(*static_cast<const Variant*>(data));
+  case tkSet:
+    return SetToString(*this);
+  case tkVariant:
+    return VarToStr(*static_cast<const Variant*>(data));
   case tkClass: {
     const TObject* object = AsObject();
     return object ? String("(") + object->ClassName() + " @ " + AddressText(object) + ")" : String("nil");
@@ -415,7 +460,8 @@ String TValue::ToString() const {
     const TRef<IInterface> intf = AsInterface();
     return intf ? "(interface @ " + AddressText(InterfaceIdentity(intf.get())) + ")" : String("nil");
   }
-  case tkPointer: return "(pointer @ " + AddressText(*static_cast<void* const*>(data)) + ")";
+  case tkPointer:
+    return "(pointer @ " + AddressText(*static_cast<void* const*>(data)) + ")";
   case tkMethod:
     if (FTypeInfo->IsAssigned && !FTypeInfo->IsAssigned(data)) return "nil";
     return String("(") + FTypeInfo->Name + ")";
@@ -467,7 +513,8 @@ bool TValue::TryCast(PTypeInfo ATypeInfo, TValue& AResult, bool AEmptyAsAnyType)
     }
     case tkEnumeration:
       // Enumerations convert only between records of the same values.
-      if (source != tkEnumeration || FTypeInfo->Ops != ATypeInfo->Ops || FTypeInfo->Names.data() != ATypeInfo->Names.data())
+      if (source != tkEnumeration || FTypeInfo->Ops != ATypeInfo->Ops ||
+          FTypeInfo->Names.data() != ATypeInfo->Names.data())
         return false;
       AResult = Make(GetReferenceToRawData(), ATypeInfo);
       return true;
@@ -512,7 +559,8 @@ bool TValue::TryCast(PTypeInfo ATypeInfo, TValue& AResult, bool AEmptyAsAnyType)
         return false;
       AResult = Make(GetReferenceToRawData(), ATypeInfo);
       return true;
-    default: return false;
+    default:
+      return false;
     }
   } catch (const Exception&) {
     return false; // a variant or currency that does not convert
@@ -576,7 +624,9 @@ bool TValue::FromString(const String& AText) {
   case tkString:
   case tkLString:
   case tkWString:
-  case tkUString: parsed = Make(&AText, type); break;
+  case tkUString:
+    parsed = Make(&AText, type);
+    break;
   case tkSet:
     if (!SetFromString(type, AText, parsed)) return false;
     break;
@@ -585,7 +635,8 @@ bool TValue::FromString(const String& AText) {
     parsed = Make(&text, type);
     break;
   }
-  default: throw EConvertError(String("Cannot convert text to a value of type ") + type->Name);
+  default:
+    throw EConvertError(String("Cannot convert text to a value of type ") + type->Name);
   }
   *this = std::move(parsed);
   return true;
@@ -600,8 +651,10 @@ Int64 TValue::AnyToInt64() const {
     break;
   case tkClass:
   case tkClassRef:
-  case tkPointer: return static_cast<Int64>(reinterpret_cast<std::uintptr_t>(*static_cast<void* const*>(GetReferenceToRawData())));
-  default: break;
+  case tkPointer:
+    return static_cast<Int64>(reinterpret_cast<std::uintptr_t>(*static_cast<void* const*>(GetReferenceToRawData())));
+  default:
+    break;
   }
   RaiseInvalidCast(&TypeInfo_Int64);
 }

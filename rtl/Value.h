@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // TValue: the tagged value between reflection and editors. A type record and the data of any
 // type, or nothing. Small plain data lives inline; anything else lives in a shared, immutable
 // box, so copying a value never copies a string.
@@ -23,7 +24,8 @@ template <class I> struct TTypeRecordOf<TRef<I>> {
     static const TTypeInfo record = [] {
       TTypeInfo r = TypeRecordOfKind<TRef<IInterface>>(I::InterfaceName, tkInterface);
       r.Guid = I::IID;
-      if constexpr (!std::is_void_v<typename I::TParentInterface>) r.IntfParent = TypeInfo<TRef<typename I::TParentInterface>>();
+      if constexpr (!std::is_void_v<typename I::TParentInterface>)
+        r.IntfParent = TypeInfo<TRef<typename I::TParentInterface>>();
       return r;
     }();
     return &record;
@@ -140,3 +142,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -52,7 +52,8 @@ constexpr TVarTypeRecord VarTypes[] = {
 };
 
 const TVarTypeRecord* FindVarType(TVarType ACode) {
-  const auto* found = std::find_if(std::begin(VarTypes), std::end(VarTypes), [ACode](const TVarTypeRecord& r) { return r.Code == ACode; });
+  const auto* found = std::find_if(std::begin(VarTypes), std::end(VarTypes),
+                                   [ACode](const TVarTypeRecord& r) { return r.Code == ACode; });
   return found == std::end(VarTypes) ? nullptr : found;
 }
 
@@ -98,13 +99,17 @@ public:
   static TWideInt ToWideInt(const Variant& AValue, TVarType ATarget) {
     const TVarType source = AValue.VarType();
     switch (ClassOf(AValue)) {
-    case TVarClass::Empty: return {};
-    case TVarClass::Ordinal: return {Ordinal(AValue), source == varUInt64};
-    case TVarClass::Boolean: return {Ordinal(AValue) ? -1 : 0};
+    case TVarClass::Empty:
+      return {};
+    case TVarClass::Ordinal:
+      return {Ordinal(AValue), source == varUInt64};
+    case TVarClass::Boolean:
+      return {Ordinal(AValue) ? -1 : 0};
     case TVarClass::Currency:
       return {Int64(std::nearbyint(Extended(Ordinal(AValue)) / Currency::Scale))};
     case TVarClass::Float:
-    case TVarClass::Date: return Rounded(Float(AValue), source, ATarget);
+    case TVarClass::Date:
+      return Rounded(Float(AValue), source, ATarget);
     case TVarClass::Text: {
       const String& text = Text(AValue);
       Int64 signedValue = 0;
@@ -118,26 +123,32 @@ public:
       if (TryStrToFloat(text, floatValue)) return Rounded(floatValue, source, ATarget);
       break;
     }
-    default: break;
+    default:
+      break;
     }
     RaiseCast(source, ATarget);
   }
 
   static Extended ToFloat(const Variant& AValue, TVarType ATarget) {
     switch (ClassOf(AValue)) {
-    case TVarClass::Empty: return 0;
+    case TVarClass::Empty:
+      return 0;
     case TVarClass::Ordinal:
       return AValue.VarType() == varUInt64 ? Extended(UInt64(Ordinal(AValue))) : Extended(Ordinal(AValue));
-    case TVarClass::Boolean: return Ordinal(AValue) ? -1 : 0;
-    case TVarClass::Currency: return Extended(Ordinal(AValue)) / Currency::Scale;
+    case TVarClass::Boolean:
+      return Ordinal(AValue) ? -1 : 0;
+    case TVarClass::Currency:
+      return Extended(Ordinal(AValue)) / Currency::Scale;
     case TVarClass::Float:
-    case TVarClass::Date: return Float(AValue);
+    case TVarClass::Date:
+      return Float(AValue);
     case TVarClass::Text: {
       Extended result = 0;
       if (TryStrToFloat(Text(AValue), result)) return result;
       break;
     }
-    default: break;
+    default:
+      break;
     }
     RaiseCast(AValue.VarType(), ATarget);
   }
@@ -145,14 +156,16 @@ public:
   static TDateTime ToDate(const Variant& AValue) {
     if (ClassOf(AValue) != TVarClass::Text) return TDateTime(ToFloat(AValue, varDate));
     TDateTime result = 0;
-    if (!TryStrToDateTime(Text(AValue), result) && !TryStrToTime(Text(AValue), result)) RaiseCast(AValue.VarType(), varDate);
+    if (!TryStrToDateTime(Text(AValue), result) && !TryStrToTime(Text(AValue), result))
+      RaiseCast(AValue.VarType(), varDate);
     return result;
   }
 
   static Currency ToCurrency(const Variant& AValue) {
     Currency result;
     switch (ClassOf(AValue)) {
-    case TVarClass::Currency: return Currency::FromScaled(Ordinal(AValue));
+    case TVarClass::Currency:
+      return Currency::FromScaled(Ordinal(AValue));
     case TVarClass::Text:
       if (!TryStrToCurr(Text(AValue), result)) RaiseCast(AValue.VarType(), varCurrency);
       return result;
@@ -167,16 +180,20 @@ public:
   static Boolean ToBoolean(const Variant& AValue) {
     Boolean result = false;
     switch (ClassOf(AValue)) {
-    case TVarClass::Empty: return false;
+    case TVarClass::Empty:
+      return false;
     case TVarClass::Ordinal:
     case TVarClass::Boolean:
-    case TVarClass::Currency: return Ordinal(AValue) != 0;
+    case TVarClass::Currency:
+      return Ordinal(AValue) != 0;
     case TVarClass::Float:
-    case TVarClass::Date: return Float(AValue) != 0;
+    case TVarClass::Date:
+      return Float(AValue) != 0;
     case TVarClass::Text:
       if (TryStrToBool(Text(AValue), result)) return result;
       break;
-    default: break;
+    default:
+      break;
     }
     RaiseCast(AValue.VarType(), varBoolean);
   }
@@ -184,20 +201,25 @@ public:
   static String ToText(const Variant& AValue, TVarType ATarget) {
     const TVarType source = AValue.VarType();
     switch (ClassOf(AValue)) {
-    case TVarClass::Empty: return String();
-    case TVarClass::Ordinal: return source == varUInt64 ? IntToStr(UInt64(Ordinal(AValue))) : IntToStr(Ordinal(AValue));
-    case TVarClass::Boolean: return BoolToStr(Ordinal(AValue) != 0, true);
-    case TVarClass::Currency: return CurrToStr(Currency::FromScaled(Ordinal(AValue)));
+    case TVarClass::Empty:
+      return String();
+    case TVarClass::Ordinal:
+      return source == varUInt64 ? IntToStr(UInt64(Ordinal(AValue))) : IntToStr(Ordinal(AValue));
+    case TVarClass::Boolean:
+      return BoolToStr(Ordinal(AValue) != 0, true);
+    case TVarClass::Currency:
+      return CurrToStr(Currency::FromScaled(Ordinal(AValue)));
     case TVarClass::Float:
       return source == varSingle ? FloatToStr(Single(Float(AValue))) : FloatToStr(Extended(Float(AValue)));
     case TVarClass::Date:
       try {
         return DateTimeToStr(Float(AValue));
-      } catch (const EConvertError&) {
-      }
+      } catch (const EConvertError&) {}
       break; // outside the calendar
-    case TVarClass::Text: return Text(AValue);
-    default: break;
+    case TVarClass::Text:
+      return Text(AValue);
+    default:
+      break;
     }
     RaiseCast(source, ATarget);
   }
@@ -224,27 +246,35 @@ Variant VarCast(const Variant& ASource, TVarType AVarType) {
   const TVarTypeRecord* target = FindVarType(AVarType);
   if (!target) RaiseCast(source, AVarType);
   switch (target->Class) {
-  case TVarClass::Empty: return Variant();
-  case TVarClass::Null: return Variant::Null();
+  case TVarClass::Empty:
+    return Variant();
+  case TVarClass::Null:
+    return Variant::Null();
   case TVarClass::Ordinal: {
     const TWideInt value = C::ToWideInt(ASource, AVarType);
     if (!value.FitsIn(*target)) RaiseOverflow(source, AVarType);
     return C::Make(AVarType, value.Value);
   }
-  case TVarClass::Boolean: return Variant(C::ToBoolean(ASource));
+  case TVarClass::Boolean:
+    return Variant(C::ToBoolean(ASource));
   case TVarClass::Float: {
     const Extended value = C::ToFloat(ASource, AVarType);
-    const Extended limit = AVarType == varSingle ? std::numeric_limits<Single>::max() : std::numeric_limits<Double>::max();
+    const Extended limit =
+        AVarType == varSingle ? std::numeric_limits<Single>::max() : std::numeric_limits<Double>::max();
     if (std::isfinite(value) && std::fabs(value) > limit) RaiseOverflow(source, AVarType);
     return C::Make(AVarType, AVarType == varSingle ? Double(Single(value)) : Double(value));
   }
-  case TVarClass::Currency: return Variant(C::ToCurrency(ASource));
-  case TVarClass::Date: return Variant::FromDate(C::ToDate(ASource));
-  case TVarClass::Text: return C::Make(AVarType, C::ToText(ASource, AVarType));
+  case TVarClass::Currency:
+    return Variant(C::ToCurrency(ASource));
+  case TVarClass::Date:
+    return Variant::FromDate(C::ToDate(ASource));
+  case TVarClass::Text:
+    return C::Make(AVarType, C::ToText(ASource, AVarType));
   case TVarClass::Pointer:
     if (ASource.IsEmpty()) return C::Make(AVarType, static_cast<void*>(nullptr));
     break;
-  case TVarClass::Other: break;
+  case TVarClass::Other:
+    break;
   }
   RaiseCast(source, AVarType);
 }
@@ -266,7 +296,9 @@ void* Variant::AsPointer() const {
 
 String VarToStr(const Variant& AValue) { return VarToStrDef(AValue, String()); }
 
-String VarToStrDef(const Variant& AValue, const String& ADefault) { return AValue.IsNull() ? ADefault : AValue.AsString(); }
+String VarToStrDef(const Variant& AValue, const String& ADefault) {
+  return AValue.IsNull() ? ADefault : AValue.AsString();
+}
 
 String VarTypeAsText(TVarType AVarType) {
   const TVarType base = AVarType & varTypeMask;

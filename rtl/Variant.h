@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Variant: a value tagged with one of the classic variant type codes. Every string code holds
 // UTF-8 text; Dispatch and Unknown hold an opaque pointer that the variant never owns.
 
@@ -90,7 +91,7 @@ private:
 };
 
 Variant VarCast(const Variant& ASource, TVarType AVarType);
-String VarToStr(const Variant& AValue);                           // Null gives ""
+String VarToStr(const Variant& AValue);                            // Null gives ""
 String VarToStrDef(const Variant& AValue, const String& ADefault); // Null gives ADefault
 String VarTypeAsText(TVarType AVarType);
 inline bool VarIsNull(const Variant& AValue) { return AValue.IsNull(); }
@@ -99,3 +100,5 @@ inline bool VarIsEmpty(const Variant& AValue) { return AValue.IsEmpty(); }
 bool VarIsClear(const Variant& AValue);
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

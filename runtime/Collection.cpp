@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "containers/List.h"
-#include "design/reflection/Publish.h"
+#include "reflection/Publish.h"
 
 namespace Tarvo {
 
@@ -63,7 +63,8 @@ TARVO_PUBLISH(TCollection) {
   IndexedProperty("Items", &TCollection::Items, &TCollection::SetItem);
 }
 
-TCollection::TCollection(TCollectionItemClass AItemClass, TPersistent* AOwner) : FItemClass(AItemClass), FOwner(AOwner) {
+TCollection::TCollection(TCollectionItemClass AItemClass, TPersistent* AOwner)
+    : FItemClass(AItemClass), FOwner(AOwner) {
   TARVO_ASSERT(FItemClass);
 }
 
@@ -99,7 +100,8 @@ TCollectionItem* TCollection::Items(Integer AIndex) const {
 void TCollection::SetItem(Integer AIndex, TCollectionItem* AValue) { Items(AIndex)->Assign(AValue); }
 
 TCollectionItem* TCollection::FindItemID(Integer AID) const {
-  const auto it = std::find_if(FItems.begin(), FItems.end(), [AID](const TCollectionItem* AItem) { return AItem->FID == AID; });
+  const auto it =
+      std::find_if(FItems.begin(), FItems.end(), [AID](const TCollectionItem* AItem) { return AItem->FID == AID; });
   return it != FItems.end() ? *it : nullptr;
 }
 

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Collections: ordered lists of items of one class, which the collection makes through the item
 // class's virtual constructor and destroys. Every change is told through the collection's
 // Update: of one item, or (nil) of the collection as a whole.
@@ -93,3 +94,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "containers/List.h"
-#include "design/reflection/Publish.h"
+#include "reflection/Publish.h"
 #include "rtl/SysUtils.h"
 
 namespace Tarvo {
@@ -123,7 +123,9 @@ void TComponent::Destroying() {
   for (TComponent* component : FComponents) component->Destroying();
 }
 
-HRESULT TComponent::QueryInterface(const TGUID& AIID, void** AObj) { return QueryRootInterface(this, this, AIID, AObj); }
+HRESULT TComponent::QueryInterface(const TGUID& AIID, void** AObj) {
+  return QueryRootInterface(this, this, AIID, AObj);
+}
 
 bool TComponent::GetInterface(const TGUID& AIID, void** AObj) { return QueryInterface(AIID, AObj) == S_OK; }
 

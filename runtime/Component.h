@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Persistents and components.
 //
 // A TPersistent copies itself from another through Assign. A TComponent has a name, an owner
@@ -23,7 +24,6 @@
 #include "runtime/NamedTypes.h"
 
 namespace Tarvo {
-
 
 class TPersistent : public TObject {
   TARVO_CLASS(TPersistent, TObject)
@@ -195,3 +195,5 @@ struct TComponentHelper {
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

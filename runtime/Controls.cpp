@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "design/reflection/Publish.h"
+#include "reflection/Publish.h"
 #include "rtl/SysUtils.h"
 #include "runtime/Popups.h"
 
@@ -49,7 +49,8 @@ void TSizeConstraints::SetLimit(Integer TData::*ALimit, Integer AValue) {
   TData data = FData;
   data.*ALimit = AValue;
   const bool maxSet = ALimit == &TData::MaxWidth || ALimit == &TData::MaxHeight;
-  for (auto [min, max] : {std::pair(&TData::MinWidth, &TData::MaxWidth), std::pair(&TData::MinHeight, &TData::MaxHeight)}) {
+  for (auto [min, max] :
+       {std::pair(&TData::MinWidth, &TData::MaxWidth), std::pair(&TData::MinHeight, &TData::MaxHeight)}) {
     if (data.*max <= 0 || data.*min <= data.*max) continue;
     if (maxSet) data.*min = data.*max;
     else data.*max = data.*min;
@@ -131,7 +132,8 @@ void TControl::Notification(TComponent* AComponent, TOperation AOperation) {
 
 TARVO_IMPLEMENT_CLASS(TWinControl)
 TARVO_PUBLISH(TWinControl) {
-  Property("TabOrder", &TWinControl::GetTabOrder, &TWinControl::SetTabOrder, &TypeInfo_TTabOrder).Default(TTabOrder(-1));
+  Property("TabOrder", &TWinControl::GetTabOrder, &TWinControl::SetTabOrder, &TypeInfo_TTabOrder)
+      .Default(TTabOrder(-1));
   Public();
   Property("ControlCount", &TWinControl::ControlCount);
   IndexedProperty("Controls", &TWinControl::Controls);
@@ -151,7 +153,8 @@ void TWinControl::InsertControl(TControl* AControl) {
   if (AControl->FParent == this) return;
   for (const TControl* ancestor = this; ancestor; ancestor = ancestor->FParent)
     if (ancestor == AControl)
-      throw EInvalidOperation(Format("Control '%s' cannot contain itself or one of its parents", {AControl->GetName()}));
+      throw EInvalidOperation(
+          Format("Control '%s' cannot contain itself or one of its parents", {AControl->GetName()}));
   if (AControl->FParent) AControl->FParent->RemoveControl(AControl);
   FControls.push_back(AControl);
   if (auto* windowed = dynamic_cast<TWinControl*>(AControl)) FTabList.push_back(windowed);
@@ -181,7 +184,7 @@ void TWinControl::SetTabOrder(TTabOrder AValue) {
 }
 
 TRef<IContainerQuery<TWinControl*, TControlList, TControl*>> TWinControl::QueryControls(Boolean ARecursive,
-                                                                                          Boolean AReverse) {
+                                                                                        Boolean AReverse) {
   return CreateComponentQuery<TWinControl*, TControlList, TControl*>(
       this,
       [](TControl* AControl) {

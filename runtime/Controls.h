@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Controls: components with a place on a surface. A control is owned by a component (which
 // destroys it) and shown inside a window control, its parent (which destroys it too, if it
 // goes first). A window control holds child controls and orders its window children for tabbing.
@@ -8,7 +9,6 @@
 #include "runtime/Graphics.h"
 
 namespace Tarvo {
-
 
 class TControl;
 class TWinControl;
@@ -196,3 +196,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -8,7 +8,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "design/reflection/TypeInfo.h"
+#include "reflection/RttiTypes.h"
+#include "reflection/TypeInfo.h"
 #include "rtl/SysUtils.h"
 #include "runtime/Controls.h"
 
@@ -36,7 +37,8 @@ private:
 
 // A member of these types names a component of the design rather than having a text of its own.
 bool RefersToComponent(PTypeInfo AType) {
-  return AType->Kind == tkInterface || (AType->Kind == tkClass && AType->ClassType->InheritsFrom(TComponent::ClassInfo()));
+  return AType->Kind == tkInterface ||
+         (AType->Kind == tkClass && AType->ClassType->InheritsFrom(TComponent::ClassInfo()));
 }
 
 // Values that the members' own conversion reads back from their text.
@@ -139,7 +141,8 @@ private:
       if (reference) target.Member->SetValue(target.Object, referenced);
       else target.Member->SetFromString(target.Object, AText);
     } catch (const Exception& e) {
-      Fail("Invalid value '" + AText + "' for '" + AKey + "' of component '" + AComponent->GetName() + "': " + e.Message());
+      Fail("Invalid value '" + AText + "' for '" + AKey + "' of component '" + AComponent->GetName() +
+           "': " + e.Message());
     }
   }
 
@@ -151,12 +154,14 @@ private:
       TRef<IValueMemberInfo> member;
       if (!TRttiObjectHelper::TypeInfo(object, true)->FindMember(String(names[i]), member) ||
           member->GetVisibility() != mvPublished || (!last && member->GetTypeInfo()->GetTypeKind() != tkClass))
-        Fail("Unknown property '" + AKey + "' of component '" + AComponent->GetName() + "' (" + AComponent->ClassName() + ")");
+        Fail("Unknown property '" + AKey + "' of component '" + AComponent->GetName() + "' (" +
+             AComponent->ClassName() + ")");
       if (last) return {object, member};
       object = member->GetValue(object).AsObject();
       if (!object) {
         const std::size_t reached = names[i].data() + names[i].size() - AKey.data();
-        Fail("Cannot reach '" + AKey + "' of component '" + AComponent->GetName() + "': '" + AKey.substr(0, reached) + "' is nil");
+        Fail("Cannot reach '" + AKey + "' of component '" + AComponent->GetName() + "': '" + AKey.substr(0, reached) +
+             "' is nil");
       }
     }
   }
@@ -165,10 +170,12 @@ private:
   TValue Reference(PTypeInfo AType, const String& AText, TComponent* AComponent, const String& AKey) {
     if (AText.empty()) return TValue::Make(nullptr, AType);
     TComponent* component = FRoot->FindComponent(AText);
-    if (!component) Fail("Unknown component '" + AText + "' for '" + AKey + "' of component '" + AComponent->GetName() + "'");
+    if (!component)
+      Fail("Unknown component '" + AText + "' for '" + AKey + "' of component '" + AComponent->GetName() + "'");
     TValue value;
     if (!TValue(static_cast<TObject*>(component)).TryCast(AType, value))
-      Fail("Component '" + AText + "' is no " + AType->Name + " for '" + AKey + "' of component '" + AComponent->GetName() + "'");
+      Fail("Component '" + AText + "' is no " + AType->Name + " for '" + AKey + "' of component '" +
+           AComponent->GetName() + "'");
     return value;
   }
 

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Design files: the components of a design as JSON, read into a root component that owns them.
 //
 //   {"components": [
@@ -35,3 +36,5 @@ std::vector<TComponent*> ReadDesignFile(const String& APath, TComponent* ARoot);
 String WriteDesign(TComponent* ARoot);
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Events: method pointers that a component publishes. An event type is a handler of a fixed
 // signature, or none; its record is of kind tkMethod, so the design core tells events from other
 // members by kind. Each event type is a class of its own, because records are found by C++ type:
@@ -31,16 +32,16 @@ template <class E> constexpr TTypeInfo EventTypeRecord(const char* AName) {
 
 } // namespace Tarvo
 
-// Declares an event type with its record; use inside namespace Tarvo.
-#define TARVO_EVENT(AName, ...)                                                                    \
-  class AName : public ::Tarvo::TEventHandler<__VA_ARGS__> {                                       \
-  public:                                                                                          \
-    using TEventHandler::TEventHandler;                                                            \
-  };                                                                                               \
+// Declares an event type with its record, in any namespace.
+#define TARVO_EVENT(AName, ...)                                                                                        \
+  class AName : public ::Tarvo::TEventHandler<__VA_ARGS__> {                                                           \
+  public:                                                                                                              \
+    using TEventHandler::TEventHandler;                                                                                \
+  };                                                                                                                   \
   TARVO_DECLARE_TYPE_RECORD(AName, TypeInfo_##AName)
 
 // In one source file: defines the record of an event declared with TARVO_EVENT.
-#define TARVO_IMPLEMENT_EVENT(AName)                                                               \
+#define TARVO_IMPLEMENT_EVENT(AName)                                                                                   \
   constinit const ::Tarvo::TTypeInfo TypeInfo_##AName = ::Tarvo::EventTypeRecord<AName>(#AName);
 
 namespace Tarvo {
@@ -49,3 +50,5 @@ namespace Tarvo {
 TARVO_EVENT(TNotifyEvent, TObject*)
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

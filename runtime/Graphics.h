@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The drawing settings a control holds: font, pen and brush. Each tells its change handlers
 // after every write that changes a value, and copies another of its class through Assign.
 
@@ -89,3 +90,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Objects whose members the design core writes and that want to hear of it: after every write
 // the core asks the instance for its notifier and fires it. A component implements it as
 // TImplements<TComponent, ILockItem>; its references are not counted.
@@ -8,7 +9,7 @@
 namespace Tarvo {
 
 class ILockItem : public virtual IInterface {
-  TARVO_INTERFACE(ILockItem, IInterface, "{6C1F0B7E-2D4A-4E85-9B3C-7A5E1D9F0C24}")
+  TARVO_INTERFACE(ILockItem, "{6C1F0B7E-2D4A-4E85-9B3C-7A5E1D9F0C24}", IInterface)
 public:
   // What to call once a write is done; nil when nothing needs telling.
   virtual TProc<> GetNotifier() = 0;
@@ -23,3 +24,5 @@ inline bool NotifyLockItem(TObject* AInstance) {
 }
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

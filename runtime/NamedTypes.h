@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The named types of the component model. Most share a representation with a base type (a TColor
 // is an Integer, a TFontName a string) and differ only by their type record, which is what the
 // design core registers editors by.
@@ -123,3 +124,5 @@ TARVO_ENUM(TAnchorKind, akLeft, akTop, akRight, akBottom)
 TARVO_SET(TAnchors, TAnchorKind)
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

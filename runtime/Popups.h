@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Components that a control shows over itself on demand: its context menu and its custom hint.
 // A control refers to them with a free notification, so its reference clears when they go.
 
@@ -42,3 +43,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

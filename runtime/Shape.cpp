@@ -1,6 +1,6 @@
 #include "runtime/Shape.h"
 
-#include "design/reflection/Publish.h"
+#include "reflection/Publish.h"
 
 namespace Tarvo {
 

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // A control that draws a geometric shape with its own pen and brush.
 
 #include "runtime/Controls.h"
@@ -26,3 +27,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

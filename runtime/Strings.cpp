@@ -184,7 +184,8 @@ bool TStringList::Find(const String& AValue, Integer& AIndex) const {
 }
 
 void TStringList::Sort() {
-  std::stable_sort(FList.begin(), FList.end(), [this](const String& A, const String& B) { return CompareStrings(A, B) < 0; });
+  std::stable_sort(FList.begin(), FList.end(),
+                   [this](const String& A, const String& B) { return CompareStrings(A, B) < 0; });
   Changed();
 }
 

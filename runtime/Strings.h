@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Lists of strings: TStrings gives the whole-text forms and copying over any storage, TStringList
 // keeps the strings in an array, sorted on demand. Every change tells the change handlers; a
 // change of many lines (a new text, an assignment) tells them once.
@@ -84,3 +85,5 @@ private:
 };
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,8 +1,8 @@
 #include "samples/FilterResponse.h"
 
-#include "design/reflection/Publish.h"
+#include "reflection/Publish.h"
 
-namespace Tarvo {
+namespace Signals {
 
 TARVO_IMPLEMENT_CLASS(TFilterResponse)
 
@@ -17,4 +17,4 @@ void TFilterResponse::Assign(TPersistent* ASource) {
   else inherited::Assign(ASource);
 }
 
-} // namespace Tarvo
+} // namespace Signals

@@ -3,7 +3,9 @@
 
 #include "runtime/Component.h"
 
-namespace Tarvo {
+namespace Signals {
+
+using namespace Tarvo;
 
 class TFilterResponse : public TPersistent {
   TARVO_CLASS(TFilterResponse, TPersistent)
@@ -29,4 +31,4 @@ private:
   TData FData;
 };
 
-} // namespace Tarvo
+} // namespace Signals

@@ -4,11 +4,13 @@
 #include <cmath>
 #include <vector>
 
-#include "design/reflection/Publish.h"
+#include "reflection/Publish.h"
+#include "reflection/RangeAttributes.h"
+#include "reflection/RowAttributes.h"
 #include "rtl/SysUtils.h"
 #include "samples/SignalPalette.h"
 
-namespace Tarvo {
+namespace Signals {
 
 TARVO_IMPLEMENT_ENUM(TFilterKind)
 TARVO_IMPLEMENT_ENUM(TFilterOption)
@@ -98,10 +100,18 @@ Double TSignalFilter::ValueAt(Int64 AIndex) const {
   if (!FOptions.Contains(foBypass)) {
     const Integer window = Window();
     switch (FKind) {
-    case fkLowPass: value = LowPass(at, window); break;
-    case fkHighPass: value -= LowPass(at, window); break;
-    case fkBandPass: value = LowPass(at, window) - LowPass(at, 2 * window); break;
-    case fkBandStop: value -= LowPass(at, window) - LowPass(at, 2 * window); break;
+    case fkLowPass:
+      value = LowPass(at, window);
+      break;
+    case fkHighPass:
+      value -= LowPass(at, window);
+      break;
+    case fkBandPass:
+      value = LowPass(at, window) - LowPass(at, 2 * window);
+      break;
+    case fkBandStop:
+      value -= LowPass(at, window) - LowPass(at, 2 * window);
+      break;
     }
     value *= std::pow(10.0, FGainDb / 20.0);
   }
@@ -119,4 +129,4 @@ String TSignalFilter::Coefficients() const {
   return text;
 }
 
-} // namespace Tarvo
+} // namespace Signals

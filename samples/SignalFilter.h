@@ -1,12 +1,14 @@
 #pragma once
 // A filter over a generator's signal: cascaded moving averages whose window follows the cutoff.
 
-#include "runtime/Graphics.h"
 #include "rtl/Variant.h"
+#include "runtime/Graphics.h"
 #include "samples/FilterResponse.h"
 #include "samples/SignalGenerator.h"
 
-namespace Tarvo {
+namespace Signals {
+
+using namespace Tarvo;
 
 TARVO_ENUM(TFilterKind, fkLowPass, fkHighPass, fkBandPass, fkBandStop)
 TARVO_ENUM(TFilterOption, foBypass, foInvert, foRectify)
@@ -102,4 +104,4 @@ private:
   TOwnedObject<TFont> FFont;
 };
 
-} // namespace Tarvo
+} // namespace Signals

@@ -3,11 +3,14 @@
 #include <cmath>
 #include <numbers>
 
-#include "design/reflection/Publish.h"
+#include "reflection/ListAttributes.h"
+#include "reflection/Publish.h"
+#include "reflection/RangeAttributes.h"
+#include "reflection/RowAttributes.h"
 #include "rtl/SysUtils.h"
 #include "samples/SignalPalette.h"
 
-namespace Tarvo {
+namespace Signals {
 
 TARVO_IMPLEMENT_ENUM(TWaveform)
 TARVO_IMPLEMENT_CLASS(TSignalGenerator)
@@ -85,13 +88,18 @@ Double TSignalGenerator::ValueAt(Int64 AIndex) const {
   const Double cycles = FFrequency * Double(AIndex) / FSampleRate + FPhase / 360.0;
   const Double t = cycles - std::floor(cycles); // where in its period the sample lies
   switch (FWaveform) {
-  case wfSine: return FAmplitude * std::sin(2 * std::numbers::pi * t);
-  case wfSquare: return t < 0.5 ? FAmplitude : -FAmplitude;
-  case wfTriangle: return FAmplitude * (t < 0.5 ? 4 * t - 1 : 3 - 4 * t);
-  case wfSawtooth: return FAmplitude * (2 * t - 1);
-  case wfNoise: return FAmplitude * NoiseAt(FNoiseSeed, AIndex);
+  case wfSine:
+    return FAmplitude * std::sin(2 * std::numbers::pi * t);
+  case wfSquare:
+    return t < 0.5 ? FAmplitude : -FAmplitude;
+  case wfTriangle:
+    return FAmplitude * (t < 0.5 ? 4 * t - 1 : 3 - 4 * t);
+  case wfSawtooth:
+    return FAmplitude * (2 * t - 1);
+  case wfNoise:
+    return FAmplitude * NoiseAt(FNoiseSeed, AIndex);
   }
   return 0;
 }
 
-} // namespace Tarvo
+} // namespace Signals

@@ -5,7 +5,9 @@
 #include "runtime/Events.h"
 #include "samples/SignalSource.h"
 
-namespace Tarvo {
+namespace Signals {
+
+using namespace Tarvo;
 
 TARVO_ENUM(TWaveform, wfSine, wfSquare, wfTriangle, wfSawtooth, wfNoise)
 
@@ -67,4 +69,4 @@ private:
   Integer FStartCount = 0;
 };
 
-} // namespace Tarvo
+} // namespace Signals

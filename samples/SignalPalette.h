@@ -3,9 +3,11 @@
 // after its member table, so that registration hooks already see the class's members; the
 // classes leave the palette when the module unloads.
 
-#include "design/reflection/DesignComponents.h"
+#include "reflection/ComponentRegistration.h"
 
-namespace Tarvo {
+namespace Signals {
+
+using namespace Tarvo;
 
 inline constexpr const char* SignalPalettePage = "Signal";
 
@@ -13,4 +15,4 @@ struct TSignalPaletteRegistration {
   explicit TSignalPaletteRegistration(TClass AClass) { RegisterComponents(SignalPalettePage, {AClass}); }
 };
 
-} // namespace Tarvo
+} // namespace Signals

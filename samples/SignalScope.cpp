@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "design/reflection/Publish.h"
+#include "reflection/Publish.h"
 #include "rtl/SysUtils.h"
 #include "samples/SignalPalette.h"
 
-namespace Tarvo {
+namespace Signals {
 
 TARVO_IMPLEMENT_CLASS(TSignalScope)
 
@@ -28,9 +28,7 @@ namespace {
 const TSignalPaletteRegistration ScopeRegistration(TSignalScope::ClassInfo());
 } // namespace
 
-TSignalScope::TSignalScope(TComponent* AOwner) : TImplements(AOwner) {
-  SetColor(clBlack);
-}
+TSignalScope::TSignalScope(TComponent* AOwner) : TImplements(AOwner) { SetColor(clBlack); }
 
 TRef<ISignalSource> TSignalScope::GetSource() const {
   TRef<ISignalSource> source;
@@ -60,4 +58,4 @@ void TSignalScope::Notification(TComponent* AComponent, TOperation AOperation) {
   if (AOperation == opRemove && AComponent == FSource) FSource = nullptr;
 }
 
-} // namespace Tarvo
+} // namespace Signals

@@ -6,7 +6,9 @@
 #include "runtime/LockItem.h"
 #include "samples/SignalSource.h"
 
-namespace Tarvo {
+namespace Signals {
+
+using namespace Tarvo;
 
 class TSignalScope : public TImplements<TWinControl, ILockItem> {
   TARVO_CLASS(TSignalScope, TImplements<TWinControl, ILockItem>)
@@ -51,4 +53,4 @@ private:
   Integer FRedrawCount = 0;
 };
 
-} // namespace Tarvo
+} // namespace Signals

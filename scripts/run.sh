@@ -6,5 +6,5 @@ cd "$(dirname "$0")/.."
 
 scripts/install-deps.sh
 cmake --preset default
-cmake --build --preset default
+cmake --build --preset default --target tarvo-inspect
 build/default/tarvo-inspect --select Generator1,Generator2 "$@"

@@ -18,8 +18,8 @@ TARVO_SET(TShiftState, TShiftStateItem)
 
 // The host's handle on the grid, held by an editor for the length of a mouse gesture or an open
 // in-place form.
-class IMemberUIUpdate : public virtual IInterface {
-  TARVO_INTERFACE(IMemberUIUpdate, IInterface, "{4E91A1D4-7DF0-4B61-9F98-C41C5BC13363}")
+class TARVO_API IMemberUIUpdate : public virtual IInterface {
+  TARVO_INTERFACE(IMemberUIUpdate, "{4E91A1D4-7DF0-4B61-9F98-C41C5BC13363}", IInterface)
 public:
   // The editing of the row ended: the grid drops forms and gestures that belong to it.
   virtual void EndEdit() = 0;
@@ -32,8 +32,8 @@ public:
 };
 
 // The host's pictures of the pin button, by state.
-class IPinButtonObjectSet : public virtual IInterface {
-  TARVO_INTERFACE(IPinButtonObjectSet, IInterface, "{2F79BC49-DD7B-4E33-92C2-CEFEB1DC8EF3}")
+class TARVO_API IPinButtonObjectSet : public virtual IInterface {
+  TARVO_INTERFACE(IPinButtonObjectSet, "{2F79BC49-DD7B-4E33-92C2-CEFEB1DC8EF3}", IInterface)
 public:
   virtual TRef<IGXBitmap> GetNormalBitmap() = 0;
   virtual TRef<IGXBitmap> GetHotBitmap() = 0;
@@ -46,8 +46,8 @@ public:
 // for offering the other.
 inline constexpr const char* SharedOperationsGUID = "{00000000-0000-0000-0000-000000000000}";
 
-class IEditorDraw : public virtual IInterface {
-  TARVO_INTERFACE(IEditorDraw, IInterface, SharedOperationsGUID)
+class TARVO_API IEditorDraw : public virtual IInterface {
+  TARVO_INTERFACE(IEditorDraw, SharedOperationsGUID, IInterface)
 public:
   // Draws what the value needs and shrinks ARect to what is left for the text. ADefaultDraw left
   // true has the host draw the value's text there; an editor that drew everything clears it.
@@ -57,17 +57,17 @@ public:
   virtual void GetEditRectangle(TIGXRect& ARect) = 0;
 };
 
-class IPropertyEditorDraw : public virtual IEditorDraw {
-  TARVO_INTERFACE(IPropertyEditorDraw, IEditorDraw, "{8B99FF74-737B-4E78-A377-8FE422D69255}")
+class TARVO_API IPropertyEditorDraw : public virtual IEditorDraw {
+  TARVO_INTERFACE(IPropertyEditorDraw, "{8B99FF74-737B-4E78-A377-8FE422D69255}", IEditorDraw)
 };
 
-class IMemberEditorDraw : public virtual IEditorDraw {
-  TARVO_INTERFACE(IMemberEditorDraw, IEditorDraw, "{FD67957F-2AC8-4786-A40A-C2C74146DE86}")
+class TARVO_API IMemberEditorDraw : public virtual IEditorDraw {
+  TARVO_INTERFACE(IMemberEditorDraw, "{FD67957F-2AC8-4786-A40A-C2C74146DE86}", IEditorDraw)
 };
 
 // Rows of the drop-down list; AValue is the row's value, not the member's.
-class IPropertyEditorListDraw : public virtual IInterface {
-  TARVO_INTERFACE(IPropertyEditorListDraw, IInterface, "{E483AA54-A187-4EB8-AA82-2601C134BC8F}")
+class TARVO_API IPropertyEditorListDraw : public virtual IInterface {
+  TARVO_INTERFACE(IPropertyEditorListDraw, "{E483AA54-A187-4EB8-AA82-2601C134BC8F}", IInterface)
 public:
   // Raises ASize to what the row needs; never lowers it.
   virtual void ListGetSize(const TValue& AValue, const TRef<IGXGraphics>& AGraphics,
@@ -80,8 +80,8 @@ public:
 
 // X and Y are in the grid's coordinates, ARect the value's cell. AHandled set keeps the grid's
 // own handling of the event away.
-class IEditorMouse : public virtual IInterface {
-  TARVO_INTERFACE(IEditorMouse, IInterface, SharedOperationsGUID)
+class TARVO_API IEditorMouse : public virtual IInterface {
+  TARVO_INTERFACE(IEditorMouse, SharedOperationsGUID, IInterface)
 public:
   virtual void ValueMouseDown(TMouseButton AButton, TShiftState AShift, Integer X, Integer Y,
                               const TRef<IMemberUIUpdate>& AUIUpdate, const TIGXRect& ARect, Boolean& AHandled) = 0;
@@ -91,27 +91,27 @@ public:
                             const TRef<IMemberUIUpdate>& AUIUpdate, const TIGXRect& ARect, Boolean& AHandled) = 0;
 };
 
-class IPropertyEditorMouse : public virtual IEditorMouse {
-  TARVO_INTERFACE(IPropertyEditorMouse, IEditorMouse, "{E947A07C-FD81-4A99-B28C-19C6F43344F9}")
+class TARVO_API IPropertyEditorMouse : public virtual IEditorMouse {
+  TARVO_INTERFACE(IPropertyEditorMouse, "{E947A07C-FD81-4A99-B28C-19C6F43344F9}", IEditorMouse)
 };
 
-class IMemberEditorMouse : public virtual IEditorMouse {
-  TARVO_INTERFACE(IMemberEditorMouse, IEditorMouse, "{4B19E007-56CD-4C23-A712-F91237DD63E9}")
+class TARVO_API IMemberEditorMouse : public virtual IEditorMouse {
+  TARVO_INTERFACE(IMemberEditorMouse, "{4B19E007-56CD-4C23-A712-F91237DD63E9}", IEditorMouse)
 };
 
-class IEditorCustomHint : public virtual IInterface {
-  TARVO_INTERFACE(IEditorCustomHint, IInterface, SharedOperationsGUID)
+class TARVO_API IEditorCustomHint : public virtual IInterface {
+  TARVO_INTERFACE(IEditorCustomHint, SharedOperationsGUID, IInterface)
 public:
   // The hint text of the editor's cell.
   virtual String GetCustomHint() = 0;
 };
 
-class IPropertyEditorCustomHint : public virtual IEditorCustomHint {
-  TARVO_INTERFACE(IPropertyEditorCustomHint, IEditorCustomHint, "{B2286F59-C47F-4BBD-8D0C-53B21B775994}")
+class TARVO_API IPropertyEditorCustomHint : public virtual IEditorCustomHint {
+  TARVO_INTERFACE(IPropertyEditorCustomHint, "{B2286F59-C47F-4BBD-8D0C-53B21B775994}", IEditorCustomHint)
 };
 
-class IMemberEditorCustomHint : public virtual IEditorCustomHint {
-  TARVO_INTERFACE(IMemberEditorCustomHint, IEditorCustomHint, "{53508114-8372-4FBD-8545-D55C2CEB3895}")
+class TARVO_API IMemberEditorCustomHint : public virtual IEditorCustomHint {
+  TARVO_INTERFACE(IMemberEditorCustomHint, "{53508114-8372-4FBD-8545-D55C2CEB3895}", IEditorCustomHint)
 };
 
 } // namespace Tarvo

@@ -16,8 +16,8 @@
 
 namespace Tarvo {
 
-class IInplaceForm : public virtual IInterface {
-  TARVO_INTERFACE(IInplaceForm, IInterface, "{3646D2DC-956D-445C-B3A2-B4D08C5441A9}")
+class TARVO_API IInplaceForm : public virtual IInterface {
+  TARVO_INTERFACE(IInplaceForm, "{3646D2DC-956D-445C-B3A2-B4D08C5441A9}", IInterface)
 public:
   // The form decides its height; the grid opens the row that far. 0 once the form is gone.
   virtual Integer GetHeight() = 0;
@@ -31,7 +31,7 @@ public:
 
 // The form's own life decides: when its parent takes it down first, the handle answers as for no
 // form; when the handle goes first, it takes the form with it.
-class TInplaceForm : public TImplements<TInterfaced, IInplaceForm> {
+class TARVO_API TInplaceForm : public TImplements<TInterfaced, IInplaceForm> {
 public:
   TInplaceForm(QWidget* AInplaceForm, TRef<IMemberUIUpdate> AUIUpdate);
   ~TInplaceForm() override;
@@ -47,8 +47,8 @@ private:
   TRef<IMemberUIUpdate> FUIUpdate;
 };
 
-class IPropertyEditorInplace : public virtual IInterface {
-  TARVO_INTERFACE(IPropertyEditorInplace, IInterface, "{3C652DC0-F9DA-4B44-900B-A778CE0FF2AB}")
+class TARVO_API IPropertyEditorInplace : public virtual IInterface {
+  TARVO_INTERFACE(IPropertyEditorInplace, "{3C652DC0-F9DA-4B44-900B-A778CE0FF2AB}", IInterface)
 public:
   // Opens a form on AParent (the grid's widget) at ARect, in the colour of a plain list row.
   virtual TRef<IInplaceForm> GetInplaceForm(QWidget* AParent, const TRef<IPaintObjects>& APaintObjects,
@@ -64,7 +64,7 @@ template <class F> struct TInplaceFormInfo {
 };
 
 template <class F> class IInplaceEditorFormController : public virtual IPropertyEditorInplace {
-  TARVO_INTERFACE(IInplaceEditorFormController, IPropertyEditorInplace, "{737ED2EE-42E9-49CE-9472-9A428336815F}")
+  TARVO_INTERFACE(IInplaceEditorFormController, "{737ED2EE-42E9-49CE-9472-9A428336815F}", IPropertyEditorInplace)
 public:
   // A snapshot of the forms opened and not dropped, in opening order.
   virtual TRef<IArrayList<TInplaceFormInfo<F>>> GetForms() = 0;
@@ -72,8 +72,8 @@ public:
   virtual TRef<IMemberUIUpdate> GetUIUpdate() = 0;
 };
 
-template <class F> class TInplaceEditorFormController
-    : public TImplements<TInterfaced, IInplaceEditorFormController<F>> {
+template <class F>
+class TInplaceEditorFormController : public TImplements<TInterfaced, IInplaceEditorFormController<F>> {
 public:
   // Makes a new form, unparented, for the rectangle it will open at.
   using TMakeFormInstance = TFunc<TIGXRect, F*>;

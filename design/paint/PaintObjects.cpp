@@ -17,14 +17,11 @@ String ShownFontFamily(const char* AFamily) { return QFontInfo(QFont(AFamily)).f
 
 TPaintObjectSet::TPaintObjectSet(TColor ABkgColor, TColor AFontColor)
     : FFontBrush(New<TIGXSolidBrush>(MakeColor(AFontColor))),
-      FBackgroundBrush(New<TIGXSolidBrush>(MakeColor(ABkgColor))),
-      FBkgColor(ABkgColor),
-      FFontColor(AFontColor) {}
+      FBackgroundBrush(New<TIGXSolidBrush>(MakeColor(ABkgColor))), FBkgColor(ABkgColor), FFontColor(AFontColor) {}
 
 TItemObjectSet::TItemObjectSet()
     : FNone(New<TPaintObjectSet>(clWindow, clWindowText)),
-      FSelected(New<TPaintObjectSet>(clHighlight, clHighlightText)),
-      FHighlighted(FSelected) {}
+      FSelected(New<TPaintObjectSet>(clHighlight, clHighlightText)), FHighlighted(FSelected) {}
 
 TPaintObjects::TPaintObjects() : FListSet(New<TItemObjectSet>()) {
   const String family = ShownFontFamily(DefaultFontFamily);

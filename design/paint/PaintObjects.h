@@ -11,8 +11,8 @@
 
 namespace Tarvo {
 
-class IPaintObjectSet : public virtual IInterface {
-  TARVO_INTERFACE(IPaintObjectSet, IInterface, "{C17CA608-F1AF-472B-A991-141BFD43A471}")
+class TARVO_API IPaintObjectSet : public virtual IInterface {
+  TARVO_INTERFACE(IPaintObjectSet, "{C17CA608-F1AF-472B-A991-141BFD43A471}", IInterface)
 public:
   // What only a host's own set gives; nil from the package's sets.
   virtual TRef<IInterface> GetHostObject() = 0;
@@ -23,8 +23,8 @@ public:
 };
 
 // The colours of drop-down list rows by row state.
-class IItemObjectSet : public virtual IInterface {
-  TARVO_INTERFACE(IItemObjectSet, IInterface, "{CB33CD97-9B09-4544-AA5D-60FF4DD64336}")
+class TARVO_API IItemObjectSet : public virtual IInterface {
+  TARVO_INTERFACE(IItemObjectSet, "{CB33CD97-9B09-4544-AA5D-60FF4DD64336}", IInterface)
 public:
   virtual TRef<IPaintObjectSet> GetNone() = 0;
   virtual TRef<IPaintObjectSet> GetSelected() = 0;
@@ -32,8 +32,8 @@ public:
 };
 
 // Only the first three and the list set are certain; a caller must be ready for nil from the rest.
-class IPaintObjects : public virtual IInterface {
-  TARVO_INTERFACE(IPaintObjects, IInterface, "{7CF4877B-2F09-4EC3-8CC1-9E76BB4B6F0D}")
+class TARVO_API IPaintObjects : public virtual IInterface {
+  TARVO_INTERFACE(IPaintObjects, "{7CF4877B-2F09-4EC3-8CC1-9E76BB4B6F0D}", IInterface)
 public:
   // Text of a value at its default.
   virtual TRef<IGXFont> GetFont() = 0;
@@ -50,7 +50,7 @@ public:
   virtual TRef<IInterface> GetHostObject(Integer APlace) = 0;
 };
 
-class TPaintObjectSet : public TImplements<TInterfaced, IPaintObjectSet> {
+class TARVO_API TPaintObjectSet : public TImplements<TInterfaced, IPaintObjectSet> {
 public:
   // The brushes take the colours with system colours resolved now; the colours stay as given.
   TPaintObjectSet(TColor ABkgColor, TColor AFontColor);
@@ -69,7 +69,7 @@ private:
 };
 
 // Plain rows in window colours; selected and highlighted rows share one highlight set.
-class TItemObjectSet : public TImplements<TInterfaced, IItemObjectSet> {
+class TARVO_API TItemObjectSet : public TImplements<TInterfaced, IItemObjectSet> {
 public:
   TItemObjectSet();
 
@@ -83,7 +83,7 @@ private:
   TRef<IPaintObjectSet> FHighlighted;
 };
 
-class TPaintObjects : public TImplements<TInterfaced, IPaintObjects> {
+class TARVO_API TPaintObjects : public TImplements<TInterfaced, IPaintObjects> {
 public:
   static constexpr const char* DefaultFontFamily = "Microsoft Sans Serif";
   static constexpr Single DefaultFontSize = 8.0f;
@@ -109,11 +109,11 @@ private:
 
 // The host's source of paint objects for painting outside its paint calls. When assigned, it
 // alone answers GetDesignPaintObjects.
-extern TFunc<TRef<IPaintObjects>> _GetDesignPaintObjects;
+extern TARVO_API TFunc<TRef<IPaintObjects>> _GetDesignPaintObjects;
 
 // The paint objects to use outside a host paint call: the hook's, or else the package's own,
 // built on first need and kept. Painting is single-threaded, so the first build takes no lock.
-TRef<IPaintObjects> GetDesignPaintObjects();
+TARVO_API TRef<IPaintObjects> GetDesignPaintObjects();
 
 // Whether the package's own paint objects exist; a host with the hook assigned never causes them.
 Boolean DesignPaintObjectsBuilt();

@@ -11,8 +11,8 @@
 namespace Tarvo {
 
 // Implemented by the host.
-class IPropertyEditorHost : public virtual IInterface {
-  TARVO_INTERFACE(IPropertyEditorHost, IInterface, "{6EFAC553-FB84-4FEE-A5BF-E708BBC9F263}")
+class TARVO_API IPropertyEditorHost : public virtual IInterface {
+  TARVO_INTERFACE(IPropertyEditorHost, "{6EFAC553-FB84-4FEE-A5BF-E708BBC9F263}", IInterface)
 public:
   // The widget the editor's control goes into.
   virtual QWidget* GetParentControl() = 0;
@@ -23,8 +23,8 @@ public:
 };
 
 // Implemented by an editor that shows a control of its own in a place the host gives.
-class IPropertyEditorHosted : public virtual IPropertyEditor {
-  TARVO_INTERFACE(IPropertyEditorHosted, IPropertyEditor, "{F23A51C1-676A-4ED7-B4CE-CA62BC82BDC5}")
+class TARVO_API IPropertyEditorHosted : public virtual IPropertyEditor {
+  TARVO_INTERFACE(IPropertyEditorHosted, "{F23A51C1-676A-4ED7-B4CE-CA62BC82BDC5}", IPropertyEditor)
 public:
   virtual void ShowHosted(const TRef<IPropertyEditorHost>& AHost) = 0;
 };

@@ -7,15 +7,15 @@
 
 namespace Tarvo {
 
-class IPropertyRange : public virtual IInterface {
-  TARVO_INTERFACE(IPropertyRange, IInterface, "{33C6B218-C877-447B-A6A5-D028BF48248B}")
+class TARVO_API IPropertyRange : public virtual IInterface {
+  TARVO_INTERFACE(IPropertyRange, "{33C6B218-C877-447B-A6A5-D028BF48248B}", IInterface)
 public:
   virtual TValue GetMinValue() = 0;
   virtual TValue GetMaxValue() = 0;
 };
 
 // A snapshot: later changes of the limits it was taken from do not reach it.
-class TPropertyRange : public TImplements<TInterfaced, IPropertyRange> {
+class TARVO_API TPropertyRange : public TImplements<TInterfaced, IPropertyRange> {
 public:
   TPropertyRange(TValue AMin, TValue AMax) : FMin(std::move(AMin)), FMax(std::move(AMax)) {}
 

@@ -4,23 +4,22 @@
 
 namespace Tarvo {
 
-const char* const InspectUsage =
-    "usage: tarvo-inspect [options]\n"
-    "Prints the object inspector's rows for the selected components of a design.\n"
-    "\n"
-    "  --design FILE          the design to open (default: the bundled sample design)\n"
-    "  --module FILE          load a further component module (repeatable)\n"
-    "  --select NAME[,NAME]   the components to select (default: the first one)\n"
-    "  --set PATH=TEXT        write TEXT through the row's editor (repeatable, in order)\n"
-    "  --reset PATH           reset the row to its default (repeatable, in order)\n"
-    "  --expand PATH          show the sub-rows of a row (repeatable)\n"
-    "  --expand-all           show the sub-rows of every row\n"
-    "  --json                 print the rows as JSON\n"
-    "  --list-classes         print the registered component classes and their pages\n"
-    "  --help                 print this text\n"
-    "\n"
-    "A PATH names a row by member names joined with \".\", as in Font.Size.\n"
-    "Markers after a row: * differs from the default, [ro] read-only, + expands.\n";
+const char* const InspectUsage = "usage: tarvo-inspect [options]\n"
+                                 "Prints the object inspector's rows for the selected components of a design.\n"
+                                 "\n"
+                                 "  --design FILE          the design to open (default: the bundled sample design)\n"
+                                 "  --module FILE          load a further component module (repeatable)\n"
+                                 "  --select NAME[,NAME]   the components to select (default: the first one)\n"
+                                 "  --set PATH=TEXT        write TEXT through the row's editor (repeatable, in order)\n"
+                                 "  --reset PATH           reset the row to its default (repeatable, in order)\n"
+                                 "  --expand PATH          show the sub-rows of a row (repeatable)\n"
+                                 "  --expand-all           show the sub-rows of every row\n"
+                                 "  --json                 print the rows as JSON\n"
+                                 "  --list-classes         print the registered component classes and their pages\n"
+                                 "  --help                 print this text\n"
+                                 "\n"
+                                 "A PATH names a row by member names joined with \".\", as in Font.Size.\n"
+                                 "Markers after a row: * differs from the default, [ro] read-only, + expands.\n";
 
 namespace {
 
@@ -50,7 +49,8 @@ TInspectOptions ParseInspectOptions(const std::vector<String>& AArguments) {
     } else if (option == "--set") {
       const String& assignment = argument();
       const std::size_t equals = assignment.find('=');
-      if (equals == String::npos || equals == 0) throw EInspectError("--set expects PATH=TEXT, not \"" + assignment + "\"");
+      if (equals == String::npos || equals == 0)
+        throw EInspectError("--set expects PATH=TEXT, not \"" + assignment + "\"");
       options.Edits.push_back({TInspectEdit::ekSet, assignment.substr(0, equals), assignment.substr(equals + 1)});
     } else if (option == "--reset") options.Edits.push_back({TInspectEdit::ekReset, argument(), String()});
     else if (option == "--expand") options.Expand.push_back(argument());

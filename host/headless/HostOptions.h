@@ -14,9 +14,9 @@ struct TInspectEdit {
 };
 
 struct TInspectOptions {
-  String DesignFile;             // empty: the bundled sample design
-  std::vector<String> Modules;   // loaded after the sample module
-  std::vector<String> Select;    // empty: the first component of the design
+  String DesignFile;               // empty: the bundled sample design
+  std::vector<String> Modules;     // loaded after the sample module
+  std::vector<String> Select;      // empty: the first component of the design
   std::vector<TInspectEdit> Edits; // in command-line order
   std::vector<String> Expand;
   Boolean ExpandAll = false;

@@ -5,6 +5,7 @@
 #include "host/headless/HostDesigner.h"
 #include "host/headless/RowWriters.h"
 #include "package/PackageEntry.h"
+#include "reflection/ComponentRegistration.h"
 #include "rtl/Module.h"
 #include "runtime/DesignFile.h"
 
@@ -69,8 +70,7 @@ String RunInspect(const TInspectOptions& AOptions, const TInspectPaths& APaths) 
   if (AOptions.ListClasses) return ClassesText(AOptions.Json);
 
   // The root goes before the modules that hold the classes of its components.
-  const TOwnedObject<TComponent> root(
-      TComponentHelper::CreateComponent(TComponent::ClassInfo(), nullptr, true, false));
+  const TOwnedObject<TComponent> root(TComponentHelper::CreateComponent(TComponent::ClassInfo(), nullptr, true, false));
   ReadDesignFile(AOptions.DesignFile.empty() ? APaths.SampleDesign : AOptions.DesignFile, root.get());
   const TRef<IDesigner> designer = New<THostDesigner>(root.get());
   Select(*designer, root.get(), AOptions.Select);

@@ -5,6 +5,8 @@
 #include <unordered_set>
 
 #include "design/Registry.h"
+#include "design/editors/BasicEditors.h"
+#include "reflection/RttiTypes.h"
 #include "rtl/SysUtils.h"
 
 namespace Tarvo {
@@ -54,7 +56,7 @@ TObject* TRowModel::FirstSelected() {
 }
 
 bool TRowModel::MakeRow(const TRef<IMemberInfo>& AMember, TObject* ALookupObject, TMemberEditor* AParentEditor,
-                         const String& AParentPath, TInspectorRow& ARow) {
+                        const String& AParentPath, TInspectorRow& ARow) {
   TRef<IArrayList<TMemberEditorClass>> classes;
   if (!GetMemberEditorClasses(AMember, ALookupObject, classes)) return false;
   TMemberEditor* editor =
@@ -134,7 +136,8 @@ TInspectorRow& TRowModel::Find(const String& APath) {
       Expand(*found);
       rows = &found->Children;
     }
-    const auto match = std::find_if(rows->begin(), rows->end(), [&](const TInspectorRow& ARow) { return SameText(ARow.Name, name); });
+    const auto match =
+        std::find_if(rows->begin(), rows->end(), [&](const TInspectorRow& ARow) { return SameText(ARow.Name, name); });
     if (match == rows->end()) throw EInspectError("no row \"" + APath + "\"");
     found = &*match;
   }

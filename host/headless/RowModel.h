@@ -14,7 +14,7 @@ namespace Tarvo {
 TARVO_DECLARE_EXCEPTION(EInspectError, Exception)
 
 struct TInspectorRow {
-  String Path;        // member names from the top row down, joined by "."
+  String Path; // member names from the top row down, joined by "."
   String Name;
   String DisplayName;
   String Value;

@@ -17,10 +17,10 @@ TEST(ArrayListTest, IndexBoundaries) {
   IntList list = Make({1, 2, 3});
   list->Delete(3)->Delete(100)->Delete(3, 10); // at or past the end: ignored
   EXPECT_EQ(Contents(list), (V{1, 2, 3}));
-  for (const auto& call : std::vector<std::function<void()>>{
-           [&] { list->GetItem(3); }, [&] { list->GetItem(-1); }, [&] { list->Delete(-1); },
-           [&] { list->SetItem(3, 0); }, [&] { list->Swap(0, 3); }, [&] { list->Delete(1, 3); },
-           [&] { list->Insert(4, 9); }})
+  for (const auto& call : std::vector<std::function<void()>>{[&] { list->GetItem(3); }, [&] { list->GetItem(-1); },
+                                                             [&] { list->Delete(-1); }, [&] { list->SetItem(3, 0); },
+                                                             [&] { list->Swap(0, 3); }, [&] { list->Delete(1, 3); },
+                                                             [&] { list->Insert(4, 9); }})
     EXPECT_THROW(call(), EListError);
   EXPECT_EQ(Contents(list), (V{1, 2, 3}));
   list->Delete(1, 2)->Insert(1, Make({2, 3, 4}))->Insert(4, 5);
@@ -93,13 +93,21 @@ TEST(ArrayListTest, OperationsAndTheirNotifications) {
   const std::tuple<std::function<void(const IntList&)>, V, int> rows[] = {
       {[](const IntList& L) { L->Add(9); }, {3, 2, 1, 9}, 1},
       {[](const IntList& L) { L->AddFront(9); }, {9, 3, 2, 1}, 1},
-      {[](const IntList& L) { L->Append(V{8, 9}); }, {3, 2, 1, 8, 9}, 2},
+      {[](const IntList& L) {
+         L->Append(V{8, 9});
+       },
+       {3, 2, 1, 8, 9},
+       2},
       {[](const IntList& L) { L->RemoveOne(2); }, {3, 1}, 1},
       {[](const IntList& L) { L->RemoveOne(7); }, {3, 2, 1}, 1}, // absent: notifies all the same
-      {[](const IntList& L) { L->ClearValues(); }, {}, 1}, {[](const IntList& L) { L->Insert(0, 9); }, {9, 3, 2, 1}, 0},
-      {[](const IntList& L) { L->Delete(0); }, {2, 1}, 0}, {[](const IntList& L) { L->Delete(0, 2); }, {1}, 0},
-      {[](const IntList& L) { L->Clear(); }, {}, 0}, {[](const IntList& L) { L->SetItem(0, 9); }, {9, 2, 1}, 0},
-      {[](const IntList& L) { L->Swap(0, 2); }, {1, 2, 3}, 0}, {[](const IntList& L) { L->Sort(); }, {1, 2, 3}, 0},
+      {[](const IntList& L) { L->ClearValues(); }, {}, 1},
+      {[](const IntList& L) { L->Insert(0, 9); }, {9, 3, 2, 1}, 0},
+      {[](const IntList& L) { L->Delete(0); }, {2, 1}, 0},
+      {[](const IntList& L) { L->Delete(0, 2); }, {1}, 0},
+      {[](const IntList& L) { L->Clear(); }, {}, 0},
+      {[](const IntList& L) { L->SetItem(0, 9); }, {9, 2, 1}, 0},
+      {[](const IntList& L) { L->Swap(0, 2); }, {1, 2, 3}, 0},
+      {[](const IntList& L) { L->Sort(); }, {1, 2, 3}, 0},
       {[](const IntList& L) { L->IfRemoveOne([](const int& A) { return A == 1; }); }, {3, 2}, 0},
       {[](const IntList& L) { L->Append(V{2})->RemoveAll(2); }, {3, 1}, 1},
   };
@@ -135,7 +143,8 @@ TEST(ArrayListTest, Walks) {
 
   // The count is asked on every step.
   Integer count = 3;
-  const auto counted = New<TBasicListEnumerator<int>>([&] { return count; }, [](Integer AIndex) { return AIndex * 10; });
+  const auto counted =
+      New<TBasicListEnumerator<int>>([&] { return count; }, [](Integer AIndex) { return AIndex * 10; });
   ASSERT_TRUE(counted->MoveNext());
   count = 5;
   EXPECT_EQ(Walk<int>(counted), (V{10, 20, 30, 40}));

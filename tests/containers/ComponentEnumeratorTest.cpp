@@ -30,15 +30,21 @@ protected:
     Add(Add(&Root, "C"), "C1");
   }
 
-  template <class TWalk> static TRef<IEnumerator<TNode*>> Make(TNode* ARoot) { return New<TWalk>(ARoot, GetCount, GetItem); }
+  template <class TWalk> static TRef<IEnumerator<TNode*>> Make(TNode* ARoot) {
+    return New<TWalk>(ARoot, GetCount, GetItem);
+  }
   static TNames Names(const TRef<IEnumerator<TNode*>>& AEnumerator) {
     TNames result;
     for (TNode* node : Walk(AEnumerator)) result.push_back(node->Name);
     return result;
   }
 
-  static inline const TFunc<TNode*, Integer> GetCount = [](TNode* A) { return static_cast<Integer>(A->Children.size()); };
-  static inline const TFunc<TNode*, Integer, TNode*> GetItem = [](TNode* A, Integer AIndex) { return A->Children.at(AIndex); };
+  static inline const TFunc<TNode*, Integer> GetCount = [](TNode* A) {
+    return static_cast<Integer>(A->Children.size());
+  };
+  static inline const TFunc<TNode*, Integer, TNode*> GetItem = [](TNode* A, Integer AIndex) {
+    return A->Children.at(AIndex);
+  };
 
   TNode Root{"Root", {}};
 
@@ -54,10 +60,12 @@ using TReverseRecursive = TComponentReverseEnumeratorRecursive<TNode*>;
 TEST_F(ComponentEnumeratorTest, WalkOrders) {
   TNode leaf{"Leaf", {}};
   const std::pair<TNames, TNames> walks[] = {
-      {Names(Make<TForward>(&Root)), {"A", "B", "C"}}, {Names(Make<TReverse>(&Root)), {"C", "B", "A"}},
+      {Names(Make<TForward>(&Root)), {"A", "B", "C"}},
+      {Names(Make<TReverse>(&Root)), {"C", "B", "A"}},
       {Names(Make<TForwardRecursive>(&Root)), {"A", "A1", "A1a", "A2", "B", "C", "C1"}},
       {Names(Make<TReverseRecursive>(&Root)), {"C1", "C", "B", "A2", "A1a", "A1", "A"}},
-      {Names(Make<TForward>(&leaf)), {}}, {Names(Make<TReverse>(&leaf)), {}},
+      {Names(Make<TForward>(&leaf)), {}},
+      {Names(Make<TReverse>(&leaf)), {}},
       {Names(Make<TForwardRecursive>(&leaf)), {}},
       {Names(Make<TReverseRecursive>(&leaf)), {}}};
   for (std::size_t i = 0; i < std::size(walks); ++i) EXPECT_EQ(walks[i].first, walks[i].second) << "walk " << i;
@@ -97,7 +105,7 @@ TEST_F(ComponentEnumeratorTest, NilArgumentsAreAssertionFailures) {
 using TNodeList = std::shared_ptr<TNames>;
 
 TRef<IContainerQuery<TNode*, TNodeList, TNode*>> QueryChildren(TNode* ARoot, bool ARecursive, bool AReverse,
-                                                                TConstFunc<TNode*, Boolean> AFilter) {
+                                                               TConstFunc<TNode*, Boolean> AFilter) {
   return CreateComponentQuery<TNode*, TNodeList, TNode*>(
       ARoot, [](TNode* A) { return static_cast<Integer>(A->Children.size()); },
       [](TNode* A, Integer AIndex) { return A->Children.at(AIndex); }, ARecursive, AReverse, std::move(AFilter),

@@ -33,11 +33,32 @@ TEST(LinkedListWalkTest, ChangesDuringAWalk) {
     Integer Count;
   } rows[] = {
       // Removing 3 while on 1 passes over 2, whose successor is flagged, while 3 is still yielded.
-      {"successor", {1, 2, 3, 4}, [](const IntList& L, int A) { if (A == 1) L->RemoveOne(3); }, {1, 3, 4}, {1, 2, 4, 9}, 5},
-      {"last", {1, 2, 3}, [](const IntList& L, int A) { if (A == 1) L->RemoveOne(3); }, {1}, {1, 2, 9}, 4},
+      {"successor",
+       {1, 2, 3, 4},
+       [](const IntList& L, int A) {
+         if (A == 1) L->RemoveOne(3);
+       },
+       {1, 3, 4},
+       {1, 2, 4, 9},
+       5},
+      {"last",
+       {1, 2, 3},
+       [](const IntList& L, int A) {
+         if (A == 1) L->RemoveOne(3);
+       },
+       {1},
+       {1, 2, 9},
+       4},
       {"current", {1, 2, 3}, [](const IntList& L, int A) { L->RemoveOne(A); }, {1, 2, 3}, {9}, 4},
       {"pop", {1}, [](const IntList& L, int) { L->PopFirst(); }, {1}, {9}, 2},
-      {"added", {1}, [](const IntList& L, int A) { if (A < 3) L->Add(A + 1); }, {1, 2, 3}, {1, 2, 3, 9}, 4},
+      {"added",
+       {1},
+       [](const IntList& L, int A) {
+         if (A < 3) L->Add(A + 1);
+       },
+       {1, 2, 3},
+       {1, 2, 3, 9},
+       4},
   };
   for (const auto& r : rows) {
     SCOPED_TRACE(r.Name);
@@ -152,9 +173,9 @@ TEST(LinkedListTest, CopiesAndQueriesAreLinkedLists) {
   EXPECT_EQ(Contents(odd), (V{5, 7}));
   EXPECT_EQ(list->Query()->Take(0)->GetCount(), 0);
   // Reading the current element before the first step fails like a nil argument.
-  ExpectAssertions({[&] { list->GetEnumerator()->GenericGetCurrent(); }, [&] { list->Append(TRef<IEnumerable<int>>()); },
-                    [&] { list->IfRemoveOne(nullptr); }, [&] { list->ForLast(nullptr); },
-                    [] { TLinkedList<int>::CreateEnumerator(nullptr); }});
+  ExpectAssertions({[&] { list->GetEnumerator()->GenericGetCurrent(); },
+                    [&] { list->Append(TRef<IEnumerable<int>>()); }, [&] { list->IfRemoveOne(nullptr); },
+                    [&] { list->ForLast(nullptr); }, [] { TLinkedList<int>::CreateEnumerator(nullptr); }});
   EXPECT_EQ(Contents(list), (V{5, 6, 7}));
 }
 

@@ -53,7 +53,7 @@ TEST(QueryTest, EqualsWalksBothToTheEnd) {
   struct TCase {
     std::vector<Integer> Other;
     bool ByComparer, ByLastDigit;
-  } cases[] = {{{1, 2, 3}, true, true},    {{1, 2, 4}, false, false}, {{1, 2}, false, false},
+  } cases[] = {{{1, 2, 3}, true, true},      {{1, 2, 4}, false, false},  {{1, 2}, false, false},
                {{1, 2, 3, 4}, false, false}, {{11, 2, 23}, false, true}, {{}, false, false}};
   for (const auto& c : cases) {
     EXPECT_EQ(query->Equals(Ints(c.Other)), c.ByComparer) << c.Other.size();
@@ -115,8 +115,7 @@ TEST(QueryTest, SkipAndTakeBoundaries) {
   struct TCase {
     Integer Count;
     std::vector<Integer> Skipped, Taken;
-  } cases[] = {{0, items, {}},   {-2, items, {}},  {2, {3, 4, 5}, {1, 2}},
-               {5, {}, items}, {9, {}, items}};
+  } cases[] = {{0, items, {}}, {-2, items, {}}, {2, {3, 4, 5}, {1, 2}}, {5, {}, items}, {9, {}, items}};
   for (const auto& c : cases) {
     const auto source = New<TInts>(items);
     const auto skipped = QueryOf(source)->Skip(c.Count);
@@ -137,7 +136,8 @@ TEST(QueryTest, FluentOperationsHandBackTheSource) {
   std::vector<Integer> seen;
   std::vector<Integer> indices;
   EXPECT_EQ(query->ForEach([&](const Integer& A) { seen.push_back(A); }), source);
-  EXPECT_EQ(query->ForEach([&](const Integer& AIndex, const Integer& A) { indices.push_back(AIndex * 10 + A); }), source);
+  EXPECT_EQ(query->ForEach([&](const Integer& AIndex, const Integer& A) { indices.push_back(AIndex * 10 + A); }),
+            source);
   EXPECT_EQ(seen, (std::vector<Integer>{3, 4, 6}));
   EXPECT_EQ(indices, (std::vector<Integer>{3, 14, 26}));
 
@@ -187,8 +187,14 @@ TEST(QueryTest, NilArgumentsAreAssertionFailures) {
                     [&] { query->ForEach(TConstProc<Integer, Integer>()); }, [&] { query->ForFirst(noProc); },
                     [&] { query->ForFirstMatch(noPredicate, proc); }, [&] { query->ForFirstMatch(IsEven, noProc); },
                     [&] { query->Do(nullptr); }, [] { New<TQuery<Integer>>(nullptr); },
-                    [&] { New<TIntContainerQuery>(walk, nullptr, [](TIntsRef, Integer) {}, nullptr); },
-                    [&] { New<TIntContainerQuery>(walk, [] { return New<TInts>(); }, nullptr, nullptr); }});
+                    [&] {
+                      New<TIntContainerQuery>(
+                          walk, nullptr, [](TIntsRef, Integer) {}, nullptr);
+                    },
+                    [&] {
+                      New<TIntContainerQuery>(
+                          walk, [] { return New<TInts>(); }, nullptr, nullptr);
+                    }});
 }
 
 } // namespace

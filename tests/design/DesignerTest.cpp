@@ -3,7 +3,8 @@
 #include <array>
 
 #include "design/Designer.h"
-#include "design/reflection/Publish.h"
+#include "reflection/Publish.h"
+#include "reflection/RttiTypes.h"
 
 namespace Tarvo {
 
@@ -112,13 +113,37 @@ TEST_F(DesignerSelectionTest, ChangeIsByIdentityAndOrder) {
     bool Announced;
   } cases[] = {
       {"the same list, grown in place", [&] { Designer->SetSelection(start->Add(&C)); }, false},
-      {"an equal copy", [&] { Designer->SetSelection(ListOf({&A, &B})); }, false},
-      {"an equal array", [&] { Designer->SetSelection(std::array<TObject*, 2>{&A, &B}); }, false},
-      {"the same objects reversed", [&] { Designer->SetSelection(ListOf({&B, &A})); }, true},
-      {"an array reversed", [&] { Designer->SetSelection(std::array<TObject*, 2>{&B, &A}); }, true},
-      {"one more", [&] { Designer->SetSelection(ListOf({&A, &B, &C})); }, true},
+      {"an equal copy",
+       [&] {
+         Designer->SetSelection(ListOf({&A, &B}));
+       },
+       false},
+      {"an equal array",
+       [&] {
+         Designer->SetSelection(std::array<TObject*, 2>{&A, &B});
+       },
+       false},
+      {"the same objects reversed",
+       [&] {
+         Designer->SetSelection(ListOf({&B, &A}));
+       },
+       true},
+      {"an array reversed",
+       [&] {
+         Designer->SetSelection(std::array<TObject*, 2>{&B, &A});
+       },
+       true},
+      {"one more",
+       [&] {
+         Designer->SetSelection(ListOf({&A, &B, &C}));
+       },
+       true},
       {"one less", [&] { Designer->SetSelection(ListOf({&A})); }, true},
-      {"another object at an index", [&] { Designer->SetSelection(ListOf({&A, &C})); }, true},
+      {"another object at an index",
+       [&] {
+         Designer->SetSelection(ListOf({&A, &C}));
+       },
+       true},
       {"nil", [&] { Designer->SetSelection(TRef<IObjectArrayList>()); }, true},
   };
   for (const auto& c : cases) {
@@ -177,7 +202,8 @@ TEST_F(DesignerUpdateTest, NoticesInsideABracketAreDroppedNotDeferred) {
       {"BindingAdded", [this](IDesigner& D) { D.BindingAdded(&A); }},
       {"BindingRemoved", [this](IDesigner& D) { D.BindingRemoved(&B); }},
   };
-  for (const TRef<IDesigner>& designer : {TRef<IDesigner>(Designer), TRef<IDesigner>(New<TNestedDesigner>(New<TDesigner>(), &C))}) {
+  for (const TRef<IDesigner>& designer :
+       {TRef<IDesigner>(Designer), TRef<IDesigner>(New<TNestedDesigner>(New<TDesigner>(), &C))}) {
     const auto listener = Listen(designer, "L");
     for (const auto& c : cases) {
       c.Act(*designer);
@@ -254,7 +280,10 @@ TEST_F(DesignerComponentTest, ConstructorSeesDesigningAndLoadingState) {
   const struct {
     Boolean DesignMode, Loading;
     TComponentState Seen;
-  } cases[] = {{true, false, {csDesigning}}, {true, true, {csDesigning, csLoading}}, {false, true, {csLoading}}, {false, false, {}}};
+  } cases[] = {{true, false, {csDesigning}},
+               {true, true, {csDesigning, csLoading}},
+               {false, true, {csLoading}},
+               {false, false, {}}};
   for (const auto& c : cases) {
     const auto designer = New<TTestFormDesigner>();
     designer->DesignMode = c.DesignMode;
@@ -349,7 +378,8 @@ TEST(SelectionChangeNotifierTest, EachOperationCallsItsProcedure) {
       {[&item](ISelectionChange& N) { N.BindingRemoved(&item); }, "modified"},
       {[](ISelectionChange& N) { N.DesignerClosing(); }, nullptr},
   };
-  for (ISelectionChange* notifier : {static_cast<ISelectionChange*>(built.get()), static_cast<ISelectionChange*>(chained.get())}) {
+  for (ISelectionChange* notifier :
+       {static_cast<ISelectionChange*>(built.get()), static_cast<ISelectionChange*>(chained.get())}) {
     for (const auto& c : cases) {
       c.Act(*notifier);
       EXPECT_EQ(log, c.Called ? TLog{c.Called} : TLog{}) << (c.Called ? c.Called : "none");

@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "design/MemberEditor.h"
-#include "design/reflection/Publish.h"
+#include "design/editors/BasicEditors.h"
+#include "reflection/Publish.h"
+#include "reflection/RowAttributes.h"
+#include "reflection/RttiTypes.h"
+#include "tests/design/EditorTestSupport.h"
 
 namespace Tarvo {
 
@@ -50,13 +54,14 @@ protected:
   }
   template <class E = TMemberEditor>
   TRef<E> Editor(const String& AName, TObject* AOwnerObject = nullptr, TRef<IMemberInfo> AFirst = nullptr) {
-    return TRef<E>(static_cast<E*>(TClassOf<TMemberEditor>(E::ClassInfo()).Create(AOwnerObject, nullptr, TRef<IDesigner>(FDesigner),
-                                                                                  nullptr, AName, AFirst)));
+    return Testing::MakeEditor<E>(FDesigner, AName, AOwnerObject, nullptr, nullptr, AFirst);
   }
   TRef<IMemberInfo> Method(const String& AName) {
     TRef<IMemberInfo> found;
-    TRttiObjectHelper::ClassTypeInfo(TEdTestGadget::ClassInfo())->GetAllMethods()->Query()->Find(
-        [&](const TRef<IMemberInfo>& AMember) { return AMember->GetName() == AName; }, found);
+    TRttiObjectHelper::ClassTypeInfo(TEdTestGadget::ClassInfo())
+        ->GetAllMethods()
+        ->Query()
+        ->Find([&](const TRef<IMemberInfo>& AMember) { return AMember->GetName() == AName; }, found);
     return found;
   }
 
@@ -132,7 +137,8 @@ TEST_F(MemberEditorTest, StockAnswersAndTheHiddenEditor) {
 TEST_F(MemberEditorTest, CountStartsAtZeroAndTheLastReleaseEndsTheEditor) {
   bool destroyed = false;
   TWatchedEditor::Destroyed = &destroyed;
-  TMemberEditor* raw = TMemberEditorClass(TWatchedEditor::ClassInfo()).Create(nullptr, nullptr, nullptr, nullptr, String(), nullptr);
+  TMemberEditor* raw =
+      TMemberEditorClass(TWatchedEditor::ClassInfo()).Create(nullptr, nullptr, nullptr, nullptr, String(), nullptr);
   EXPECT_EQ(raw->RefCount(), 0);
   {
     const TRef<IMemberEditor> held(raw);

@@ -1,18 +1,21 @@
 #include <gtest/gtest.h>
 
 #include "design/Registry.h"
-#include "design/reflection/Publish.h"
+#include "design/editors/BasicEditors.h"
+#include "reflection/Publish.h"
+#include "reflection/RowAttributes.h"
+#include "reflection/RttiTypes.h"
 
 namespace Tarvo {
 
 // ---- Editors and reflected classes of the tests ----
 
-#define TEST_EDITOR(AName)                                                                         \
-  class AName : public TMemberEditor {                                                             \
-    TARVO_CLASS(AName, TMemberEditor)                                                              \
-  public:                                                                                          \
-    using TMemberEditor::TMemberEditor;                                                            \
-  };                                                                                               \
+#define TEST_EDITOR(AName)                                                                                             \
+  class AName : public TMemberEditor {                                                                                 \
+    TARVO_CLASS(AName, TMemberEditor)                                                                                  \
+  public:                                                                                                              \
+    using TMemberEditor::TMemberEditor;                                                                                \
+  };                                                                                                                   \
   TARVO_IMPLEMENT_CLASS(AName)
 
 TEST_EDITOR(TRegTestEditorA)
@@ -95,6 +98,7 @@ protected:
     DefaultEditorClasses.ByTypeKind[tkClass] = TRegTestDefaultEditor::ClassInfo();
     DefaultEditorClasses.StringEditor = TRegTestStringEditor::ClassInfo();
     DefaultEditorClasses.MultiLineStringEditor = TRegTestEditorB::ClassInfo();
+    DefaultEditorClasses.MethodEditor = TMethodEditor::ClassInfo();
   }
   void TearDown() override {
     GMemberEditors = nullptr;
@@ -102,7 +106,8 @@ protected:
   }
 
   TRef<IMemberInfo> Member(const String& AName) {
-    for (const TRef<IMemberInfo>& member : TRttiObjectHelper::ClassTypeInfo(TRegTestOwner::ClassInfo())->GetAllMembers())
+    for (const TRef<IMemberInfo>& member :
+         TRttiObjectHelper::ClassTypeInfo(TRegTestOwner::ClassInfo())->GetAllMembers())
       if (member->GetName() == AName) return member;
     ADD_FAILURE() << AName;
     return nullptr;
@@ -153,7 +158,8 @@ TEST_F(RegistryTest, ReplaceRulesInTheirOrder) {
   EXPECT_EQ(Editors("Left"), V{"TRegTestEditorB"});
 
   // An owner-less entry of a more derived class type beats an ancestor type's entry with owner.
-  RegisterPropertyEditor(ClassType(TRegTestPart::ClassInfo()), TRegTestOwner::ClassInfo(), "", TRegTestEditorA::ClassInfo());
+  RegisterPropertyEditor(ClassType(TRegTestPart::ClassInfo()), TRegTestOwner::ClassInfo(), "",
+                         TRegTestEditorA::ClassInfo());
   RegisterPropertyEditor(ClassType(TRegTestSpecialPart::ClassInfo()), TRegTestEditorB::ClassInfo());
   EXPECT_EQ(Editors("Part"), V{"TRegTestEditorB"});
 
@@ -219,18 +225,21 @@ TEST_F(RegistryTest, HiddenMembersOfRegisteredComponentsGetTheHiddenEditor) {
   TRegTestGauge gauge;
   TRef<IArrayList<TMemberEditorClass>> classes;
   TRef<IMemberInfo> limit;
-  TRttiObjectHelper::TypeInfo(&gauge, false)->GetAllMembers()->Query()->Find(
-      [](const TRef<IMemberInfo>& AMember) { return AMember->GetName() == "Limit"; }, limit);
+  TRttiObjectHelper::TypeInfo(&gauge, false)
+      ->GetAllMembers()
+      ->Query()
+      ->Find([](const TRef<IMemberInfo>& AMember) { return AMember->GetName() == "Limit"; }, limit);
   ASSERT_TRUE(GetMemberEditorClasses(limit, &gauge, classes));
   EXPECT_EQ(classes->GetItem(0).get(), TRegTestDefaultEditor::ClassInfo());
 }
 
 TEST_F(RegistryTest, UnloadSweepRemovesEntriesOfTheModule) {
-  RegisterPropertyEditor(&TypeInfo_Integer, TRegTestEditorA::ClassInfo()); // editor in this module
-  RegisterPropertyEditor(&TypeInfo_Integer, THiddenEditor::ClassInfo());   // all in the package
-  SweepMemberEditors(TRegTestEditorA::ClassInfo()->Module());
+  // The member type of one entry lies in the runtime; the other entry is all of this module.
+  RegisterPropertyEditor(&TypeInfo_Integer, TRegTestEditorA::ClassInfo());
+  RegisterPropertyEditor(&TypeInfo_TRegTestPoint, TRegTestEditorB::ClassInfo());
+  SweepMemberEditors(TypeInfo_Integer.Module());
   ASSERT_EQ(GMemberEditors->GetCount(), 1);
-  EXPECT_EQ(GMemberEditors->Last()->GetInstance()->EditorClass.get(), THiddenEditor::ClassInfo());
+  EXPECT_EQ(GMemberEditors->Last()->GetInstance()->EditorClass.get(), TRegTestEditorB::ClassInfo());
 }
 
 } // namespace

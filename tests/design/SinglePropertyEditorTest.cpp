@@ -3,10 +3,13 @@
 #include "design/MemberKinds.h"
 #include "design/SinglePropertyEditor.h"
 #include "design/paint/PropertyEditorHost.h"
-#include "design/reflection/MemberInfo.h"
-#include "design/reflection/Publish.h"
+#include "reflection/MemberInfo.h"
+#include "reflection/Publish.h"
+#include "reflection/RowAttributes.h"
+#include "reflection/RttiTypes.h"
 #include "rtl/SysUtils.h"
 #include "runtime/LockItem.h"
+#include "tests/design/EditorTestSupport.h"
 
 namespace Tarvo {
 
@@ -16,7 +19,8 @@ inline std::vector<String> GSpeLog;
 class TSpeGadget : public TImplements<TComponent, ILockItem> {
   TARVO_CLASS(TSpeGadget, TImplements<TComponent, ILockItem>)
 public:
-  explicit TSpeGadget(String ALabel, Integer ALevel = 0) : TImplements(nullptr), FLabel(std::move(ALabel)), FLevel(ALevel) {}
+  explicit TSpeGadget(String ALabel, Integer ALevel = 0)
+      : TImplements(nullptr), FLabel(std::move(ALabel)), FLevel(ALevel) {}
   TProc<> GetNotifier() override {
     return [this] { GSpeLog.push_back("changed " + FLabel); };
   }
@@ -49,7 +53,10 @@ TARVO_PUBLISH(TSpeGadget) {
   Property("Stamp", &TSpeGadget::FStamp, &TSpeGadget::FStamp).Stored(&TSpeGadget::IsStampStored);
   Property("Count", &TSpeGadget::GetCount);
   WriteOnlyProperty("Sink", &TSpeGadget::SetSink);
-  Property("Quiet", &TSpeGadget::FQuiet, &TSpeGadget::FQuiet).Default(0).Attr<HideNestedDefaultAttribute>().Attr<DisplayNestedAttribute>();
+  Property("Quiet", &TSpeGadget::FQuiet, &TSpeGadget::FQuiet)
+      .Default(0)
+      .Attr<HideNestedDefaultAttribute>()
+      .Attr<DisplayNestedAttribute>();
   Property("Brief", &TSpeGadget::FQuiet, &TSpeGadget::FQuiet).Attr<DisplayNestedShortAttribute>();
   Property("Hushed", &TSpeGadget::FQuiet, &TSpeGadget::FQuiet).Attr<DisplayNestedAttribute>(false);
   Public();
@@ -136,14 +143,6 @@ private:
   TRef<IValueMemberInfo> FOwner;
 };
 
-class TSpeDesigner : public TDesigner {
-public:
-  void Modified() override { GSpeLog.push_back("Modified"); }
-  void ResetObjectInspector() override { GSpeLog.push_back("ResetObjectInspector"); }
-  TRef<IObjectArrayList> GetRootSelection() override { return FRoot ? FRoot : TDesigner::GetRootSelection(); }
-  TRef<IObjectArrayList> FRoot;
-};
-
 class TSpeListener : public TImplements<TInterfacedObject, IRefreshMemberNotify> {
 public:
   explicit TSpeListener(String AName) : FName(std::move(AName)) {}
@@ -161,16 +160,15 @@ class SinglePropertyEditorTest : public testing::Test {
 protected:
   void SetUp() override {
     GSpeLog.clear();
-    FDesigner = New<TSpeDesigner>();
+    FDesigner = New<Testing::TLoggingDesigner>(GSpeLog);
     Select({&FFirst, &FSecond, &FThird});
   }
-  void Select(std::vector<TObject*> AObjects) { FDesigner->SetSelection(TObjectArrayList::CreateArray(AObjects)); }
+  void Select(std::vector<TObject*> AObjects) { FDesigner->Select(AObjects); }
 
   template <class E = TSinglePropertyEditor>
   TRef<E> Editor(const String& AName, TObject* AOwnerObject = nullptr, TMemberEditor* AParent = nullptr,
                  TRef<IMemberInfo> AShared = nullptr) {
-    return TRef<E>(static_cast<E*>(TMemberEditorClass(E::ClassInfo()).Create(AOwnerObject, AParent, TRef<IDesigner>(FDesigner),
-                                                                             AShared, AName, nullptr)));
+    return Testing::MakeEditor<E>(FDesigner, AName, AOwnerObject, AParent, AShared);
   }
   static TRef<IValueMemberInfo> Member(const String& AName) {
     TRef<IValueMemberInfo> member;
@@ -184,7 +182,7 @@ protected:
   }
 
   TSpeGadget FFirst{"First", 1}, FSecond{"Second", 2}, FThird{"Third", 1}, FLone{"Lone", 9};
-  TRef<TSpeDesigner> FDesigner;
+  TRef<Testing::TLoggingDesigner> FDesigner;
 };
 
 // ---- Reading ----
@@ -225,14 +223,16 @@ TEST_F(SinglePropertyEditorTest, NilObjectInAnExplicitListGivesAnEmptyValueAndNo
   EXPECT_EQ(Texts(editor->GetInstanceValues(list)), (TLog{"0", "<empty>", "7"}));
   EXPECT_EQ(editor->GetDisplayValue(list), "0;;7");
   std::vector<std::pair<bool, bool>> stored;
-  for (const TIsDefaultByStrored& item : editor->GetIsDefaultsByStored(list)) stored.emplace_back(item.HasStored, item.IsDefault);
+  for (const TIsDefaultByStrored& item : editor->GetIsDefaultsByStored(list))
+    stored.emplace_back(item.HasStored, item.IsDefault);
   EXPECT_EQ(stored, (std::vector<std::pair<bool, bool>>{{true, false}, {false, false}, {true, true}}));
   // A member without a stored specifier has nothing to ask.
-  for (const TIsDefaultByStrored& item : Editor("Level")->GetIsDefaultsByStored(list)) EXPECT_FALSE(item.HasStored || item.IsDefault);
+  for (const TIsDefaultByStrored& item : Editor("Level")->GetIsDefaultsByStored(list))
+    EXPECT_FALSE(item.HasStored || item.IsDefault);
 }
 
 TEST_F(SinglePropertyEditorTest, ReadsTakeTheRootSelectionAndWritesTheSelection) {
-  FDesigner->FRoot = TObjectArrayList::CreateArray({&FLone});
+  FDesigner->Root = TObjectArrayList::CreateArray({&FLone});
   const TRef<TSinglePropertyEditor> editor = Editor("Level");
   EXPECT_EQ(editor->GetDisplayValue(nullptr), "9");
   editor->SetInstanceValues(5);
@@ -266,8 +266,7 @@ TEST_F(SinglePropertyEditorTest, ParentEditorMapsSelectedObjectsToTheirNestedObj
 }
 
 TEST_F(SinglePropertyEditorTest, OwnerObjectUnderAParentThatIsNoPropertyEditorFails) {
-  const TRef<TMemberEditor> parent =
-      TRef<TMemberEditor>(TMemberEditorClass(TMemberEditor::ClassInfo()).Create(nullptr, nullptr, TRef<IDesigner>(FDesigner), nullptr, "Child", nullptr));
+  const TRef<TMemberEditor> parent = Editor<TMemberEditor>("Child");
   try {
     Editor("Level", nullptr, parent.get())->GetOwnerObject();
     FAIL() << "no error";
@@ -281,7 +280,8 @@ TEST_F(SinglePropertyEditorTest, OwnerObjectUnderAParentThatIsNoPropertyEditorFa
 TEST_F(SinglePropertyEditorTest, RefreshingMemberOnTwoObjectsModifiesOnceThenResetsOnce) {
   Select({&FFirst, &FSecond});
   Editor("Size")->SetInstanceValues(8);
-  EXPECT_EQ(GSpeLog, (TLog{"Size First", "changed First", "Size Second", "changed Second", "Modified", "ResetObjectInspector"}));
+  EXPECT_EQ(GSpeLog,
+            (TLog{"Size First", "changed First", "Size Second", "changed Second", "Modified", "ResetObjectInspector"}));
   EXPECT_EQ(FSecond.FSize, 8);
 
   GSpeLog.clear();
@@ -425,11 +425,11 @@ TEST_F(SinglePropertyEditorTest, DisplayNestedByAttributesAndVisibility) {
       {"Level", false, 5, true, "Level=5"},
       {"Secret", false, 5, false, "Secret=5"}, // not published; the text is filled all the same
       {"Shown", false, 5, true, "Shown=5"},
-      {"Secret", true, 5, true, "Secret=5"},   // the editor class says so
-      {"Hushed", true, 5, false, "Hushed=5"},  // the member's attribute comes first
+      {"Secret", true, 5, true, "Secret=5"},  // the editor class says so
+      {"Hushed", true, 5, false, "Hushed=5"}, // the member's attribute comes first
       {"Brief", false, 5, true, "5"},
       {"Quiet", false, 5, true, "Quiet=5"},
-      {"Quiet", false, 0, false, ""},          // hidden at its default despite DisplayNestedAttribute
+      {"Quiet", false, 0, false, ""}, // hidden at its default despite DisplayNestedAttribute
   };
   Select({&FFirst});
   for (const Row& r : rows) {

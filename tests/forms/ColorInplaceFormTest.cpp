@@ -76,7 +76,11 @@ TEST(ColorInplaceFormTest, OnlyTheUsersColourFires) {
 
 TEST(ColorInplaceFormTest, TheWheelTakesTheHueOfTheColour) {
   const std::pair<TColor, Single> cases[] = {
-      {0x00FFFF, 1}, {0x00FF00, 2}, {0xFFFF00, 3}, {0xFF0000, 4}, {0xFF00FF, 5},
+      {0x00FFFF, 1},
+      {0x00FF00, 2},
+      {0xFFFF00, 3},
+      {0xFF0000, 4},
+      {0xFF00FF, 5},
       {0x0080FF, 128.0f / 255},     // orange
       {0x8000FF, 6 - 128.0f / 255}, // a red leaning to blue wraps round
   };

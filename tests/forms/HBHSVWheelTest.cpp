@@ -30,8 +30,8 @@ TEST(HBHSVWheelTest, HSLToRGBTable) {
   const struct {
     Single H, S, L;
     int RGB;
-  } cases[] = {{0, 1, 0.5f, 0xFF0000},   {60, 1, 0.5f, 0xFFFF00},  {120, 1, 0.5f, 0x00FF00}, {180, 1, 0.5f, 0x00FFFF},
-               {240, 1, 0.5f, 0x0000FF}, {300, 1, 0.5f, 0xFF00FF}, {90, 1, 0.5f, 0x80FF00},  {0, 0, 0.5f, 0x808080},
+  } cases[] = {{0, 1, 0.5f, 0xFF0000},   {60, 1, 0.5f, 0xFFFF00},   {120, 1, 0.5f, 0x00FF00}, {180, 1, 0.5f, 0x00FFFF},
+               {240, 1, 0.5f, 0x0000FF}, {300, 1, 0.5f, 0xFF00FF},  {90, 1, 0.5f, 0x80FF00},  {0, 0, 0.5f, 0x808080},
                {200, 1, 1, 0xFFFFFF},    {-120, 1, 0.5f, 0x0000FF}, {480, 1, 0.5f, 0x00FF00}, {0, 1, 0.25f, 0x800000}};
   for (const auto& c : cases) {
     Byte r, g, b;

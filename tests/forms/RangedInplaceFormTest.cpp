@@ -41,10 +41,10 @@ TEST(NumericInplaceFormTest, PositionTable) {
       {0, Int64Min, Int64Max, 2048},
       {Int64Min, Int64Min, Int64Max, 0},
       {Int64(1) << 31, 0, 4294967295, 2048},
-      {-5, 0, 1000, 0},           // outside the range: the bar's ends
+      {-5, 0, 1000, 0}, // outside the range: the bar's ends
       {5000, 0, 1000, 4095},
-      {1000, 0, 1000, 4095},      // the last step stops one short of the end
-      {7, 5, 5, 0},               // an empty range
+      {1000, 0, 1000, 4095}, // the last step stops one short of the end
+      {7, 5, 5, 0},          // an empty range
   };
   for (const auto& c : cases)
     EXPECT_EQ(PositionOf(c.Value, c.Min, c.Max), c.Position) << c.Value << " in " << c.Min << ".." << c.Max;
@@ -65,7 +65,9 @@ TEST(NumericInplaceFormTest, OnlyTheUsersValueFires) {
   EXPECT_EQ(form.TrackBar->geometry(), form.rect());
   form.SetLimits(Range<Int64>(0, 1000));
   std::vector<Int64> reported;
-  form.OnValueChange = [&](QWidget* ASender) { reported.push_back(static_cast<TNumericInplaceForm*>(ASender)->GetValue().AsInt64()); };
+  form.OnValueChange = [&](QWidget* ASender) {
+    reported.push_back(static_cast<TNumericInplaceForm*>(ASender)->GetValue().AsInt64());
+  };
   form.SetValue(TValue::From<Int64>(250));
   EXPECT_TRUE(reported.empty());
   EXPECT_EQ(form.GetValue().AsInt64(), 250);

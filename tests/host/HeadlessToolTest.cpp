@@ -40,7 +40,8 @@ TEST(HeadlessToolTest, RowsWithMarkersAfterTheWritesWentThroughTheEditors) {
   TToolRun run = RunTool("--select Generator1,Generator2");
   ASSERT_EQ(run.ExitCode, 0) << run.Err;
   EXPECT_EQ(run.Err, "");
-  for (const char* line : {"\nFrequency = 440;1000  *\n", "\nPeakToPeak = 1.6;2  * [ro]\n", "\nPhase (degrees) = 0;90  *\n"})
+  for (const char* line :
+       {"\nFrequency = 440;1000  *\n", "\nPeakToPeak = 1.6;2  * [ro]\n", "\nPhase (degrees) = 0;90  *\n"})
     EXPECT_NE(run.Out.find(line), String::npos) << line << run.Out;
   EXPECT_EQ(run.Out.find("NoiseSeed"), String::npos);
 
@@ -57,7 +58,8 @@ TEST(HeadlessToolTest, JsonRowsCarryEveryFieldOfTheRow) {
   ASSERT_EQ(run.ExitCode, 0) << run.Err;
   const nlohmann::json rows = nlohmann::json::parse(run.Out);
   ASSERT_TRUE(rows.is_array());
-  const auto phase = std::find_if(rows.begin(), rows.end(), [](const nlohmann::json& ARow) { return ARow["name"] == "Phase"; });
+  const auto phase =
+      std::find_if(rows.begin(), rows.end(), [](const nlohmann::json& ARow) { return ARow["name"] == "Phase"; });
   ASSERT_NE(phase, rows.end());
   const char* expected = R"json({"path": "Phase", "name": "Phase", "display_name": "Phase (degrees)", "value": "0",
       "editor": "TSinglePropertyEditor", "default": true, "read_only": false, "expandable": false, "children": []})json";
@@ -72,7 +74,8 @@ TEST(HeadlessToolTest, ListsTheRegisteredClassesWithTheirPages) {
 
 TEST(HeadlessToolTest, BadInputIsOneClearMessageWithExitCodeTwoAndNothingPrinted) {
   const String design = testing::TempDir() + "tarvo-inspect-bad-design.json";
-  std::ofstream(design) << R"({"components": [{"class": "TSignalGenerator", "name": "G", "properties": {"Pitch": "1"}}]})";
+  std::ofstream(design)
+      << R"({"components": [{"class": "TSignalGenerator", "name": "G", "properties": {"Pitch": "1"}}]})";
   const struct {
     String Arguments;
     String Message;

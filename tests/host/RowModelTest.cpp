@@ -6,6 +6,7 @@
 #include "host/headless/HostDesigner.h"
 #include "host/headless/RowModel.h"
 #include "package/PackageEntry.h"
+#include "reflection/RttiTypes.h"
 #include "rtl/Module.h"
 #include "runtime/DesignFile.h"
 #include "runtime/Graphics.h"
@@ -22,7 +23,9 @@ public:
     AResult = TRttiObjectHelper::ClassTypeInfo(TFont::ClassInfo())->GetMembers(mvsPublished);
     return true;
   }
-  TObject* GetValueForDirectInstance(TObject* AObject) override { return GetValueMember(AObject)->GetValue(AObject).AsObject(); }
+  TObject* GetValueForDirectInstance(TObject* AObject) override {
+    return GetValueMember(AObject)->GetValue(AObject).AsObject();
+  }
 };
 TARVO_IMPLEMENT_CLASS(TInspectTestFontEditor)
 
@@ -70,7 +73,8 @@ TEST_F(RowModelTest, RowsAreTheMembersThePackageGivesAVisibleEditorSortedByName)
   Select({"Generator1"});
   const std::vector<String> names = Names();
   EXPECT_TRUE(std::is_sorted(names.begin(), names.end()));
-  for (const char* shown : {"Frequency", "Waveform", "OnStart", "Start", "Advance", "PeakToPeak"}) EXPECT_TRUE(HasRow(shown)) << shown;
+  for (const char* shown : {"Frequency", "Waveform", "OnStart", "Start", "Advance", "PeakToPeak"})
+    EXPECT_TRUE(HasRow(shown)) << shown;
   // Hidden by attribute, protected, private.
   for (const char* absent : {"NoiseSeed", "Running", "StartCount"}) EXPECT_FALSE(HasRow(absent)) << absent;
 
@@ -122,7 +126,8 @@ TEST_F(RowModelTest, BadPathsAndReadOnlyRowsAreRefusedByName) {
   EXPECT_EQ(message([&] { FInspector.SetValue("Bogus", "1"); }), "no row \"Bogus\"");
   EXPECT_EQ(message([&] { FInspector.SetValue("PeakToPeak", "1"); }), "row \"PeakToPeak\" is read-only");
   EXPECT_EQ(message([&] { FInspector.SetValue("OnStart", "x"); }), "row \"OnStart\" has no value");
-  EXPECT_EQ(message([&] { FInspector.Find("Frequency.Size"); }), "no row \"Frequency.Size\": \"Frequency\" does not expand");
+  EXPECT_EQ(message([&] { FInspector.Find("Frequency.Size"); }),
+            "no row \"Frequency.Size\": \"Frequency\" does not expand");
   EXPECT_EQ(message([&] { FInspector.Expand(FInspector.Find("Frequency")); }), "row \"Frequency\" does not expand");
 }
 
@@ -134,7 +139,8 @@ TEST_F(RowModelTest, AnExpandingEditorGivesSubRowsThatWriteToTheValuesOfEverySel
   FInspector.Expand(font);
   std::vector<String> children;
   for (const TInspectorRow& child : font.Children) children.push_back(child.Path);
-  EXPECT_EQ(children, (std::vector<String>{"Font.Charset", "Font.Color", "Font.Height", "Font.Name", "Font.Size", "Font.Style"}));
+  EXPECT_EQ(children,
+            (std::vector<String>{"Font.Charset", "Font.Color", "Font.Height", "Font.Name", "Font.Size", "Font.Style"}));
 
   FInspector.SetValue("Font.Size", "14");
   for (const char* name : {"Scope1", "TriggerMark"}) {

@@ -5,9 +5,13 @@
 #include <cstring>
 
 #include "design/Registry.h"
-#include "design/reflection/Publish.h"
+#include "design/editors/BasicEditors.h"
 #include "package/DesignUnit.h"
 #include "package/PackageEntry.h"
+#include "reflection/ComponentRegistration.h"
+#include "reflection/Publish.h"
+#include "reflection/RowAttributes.h"
+#include "reflection/RttiTypes.h"
 #include "rtl/Module.h"
 #include "runtime/Controls.h"
 #include "runtime/Shape.h"
@@ -101,8 +105,8 @@ TEST_F(PackageRegistrationsTest, ControlsAndComponentsHideTheirListedMembersOnly
   TOwnedObject<TShape> shape(Construct<TShape>(nullptr));
   TStartupTestPlain plain;
   TOwnedObject<TComponent> component(Construct<TComponent>(nullptr));
-  for (const char* name : {"Left", "Top", "Width", "Height", "Align", "Anchors", "Constraints", "Margins", "HelpKeyword",
-                           "PopupMenu", "CustomHint", "ParentCustomHint", "Tag"})
+  for (const char* name : {"Left", "Top", "Width", "Height", "Align", "Anchors", "Constraints", "Margins",
+                           "HelpKeyword", "PopupMenu", "CustomHint", "ParentCustomHint", "Tag"})
     EXPECT_EQ(EditorOf(shape.get(), name), "THiddenEditor") << name;
   EXPECT_EQ(EditorOf(component.get(), "Tag"), "THiddenEditor");
   EXPECT_EQ(EditorOf(&plain, "Left"), "TSinglePropertyEditor");

@@ -52,7 +52,8 @@ TEST(HatchBrushTest, PercentStylesCoverTheirShare) {
 // A rectangle off the grid and a moved origin both leave a vertical hatch at device x = 0 and 8.
 TEST(HatchBrushTest, PatternStaysOnTheDeviceGrid) {
   const auto brush = New<TIGXHatchBrush>(hsVertical, claBlack, claWhite);
-  const QImage offset = Paint(16, 1, [&](IGXGraphics& AGraphics) { AGraphics.FillRectangle(brush, TIGXRect(3, 0, 13, 1)); });
+  const QImage offset =
+      Paint(16, 1, [&](IGXGraphics& AGraphics) { AGraphics.FillRectangle(brush, TIGXRect(3, 0, 13, 1)); });
   EXPECT_EQ(Row(offset, 0, 0, 16), "........#.......");
   const QImage moved = Paint(16, 1, [&](IGXGraphics& AGraphics) {
     AGraphics.TranslateTransform(3, 0);
@@ -88,7 +89,8 @@ TEST(TextureBrushTest, TranslationMovesTheImageAndClampPaintsItOnce) {
   });
   const char* rows[] = {"wwwwwwww", "wwwwrgww", "wwwwbyww", "wwwwwwww"};
   for (int y = 0; y < 4; ++y) EXPECT_EQ(Colours(image, y, 0, 8), rows[y]) << "row " << y;
-  const QImage clipped = Paint(8, 2, [&](IGXGraphics& AGraphics) { AGraphics.FillRectangle(brush, TIGXRect(0, 0, 4, 2)); });
+  const QImage clipped =
+      Paint(8, 2, [&](IGXGraphics& AGraphics) { AGraphics.FillRectangle(brush, TIGXRect(0, 0, 4, 2)); });
   EXPECT_EQ(Colours(clipped, 1, 0, 8), "wwwrwwww");
   brush->ResetTransform();
   EXPECT_EQ(Colours(FillWith(brush, 4, 1), 0, 0, 4), "rgww");
@@ -156,10 +158,12 @@ TEST(LinearGradientTest, InvalidBlendsAreRefusedWithTheReason) {
       EXPECT_NE(std::string(e.what()).find(AReason), std::string::npos) << e.what();
     }
   };
-  const std::pair<std::vector<Single>, const char*> cases[] = {
-      {{0.1f, 0.5f, 1}, "first position must be 0"}, {{0, 0.5f, 0.9f}, "last position must be 1"},
-      {{0, 1.5f, 1}, "positions must ascend"},      {{0, 0.7f, 0.3f, 1}, "as many positions"},
-      {{0, 1}, "as many positions"},                {{0}, "at least two positions"}};
+  const std::pair<std::vector<Single>, const char*> cases[] = {{{0.1f, 0.5f, 1}, "first position must be 0"},
+                                                               {{0, 0.5f, 0.9f}, "last position must be 1"},
+                                                               {{0, 1.5f, 1}, "positions must ascend"},
+                                                               {{0, 0.7f, 0.3f, 1}, "as many positions"},
+                                                               {{0, 1}, "as many positions"},
+                                                               {{0}, "at least two positions"}};
   for (const auto& [positions, reason] : cases) {
     expectRefused(reason, [&] { brush->SetBlend({0, 0.5f, 1}, positions); });
     expectRefused(reason, [&] { brush->SetInterpolationColors({Red, Green, Blue}, positions); });

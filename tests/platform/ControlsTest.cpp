@@ -17,9 +17,9 @@ protected:
   void SetUp() override {
     QPalette palette;
     const std::pair<QPalette::ColorRole, QColor> roles[] = {
-        {QPalette::Base, QColor(0x10, 0x20, 0x30)},      {QPalette::Text, QColor(0x11, 0x21, 0x31)},
-        {QPalette::Highlight, QColor(0x12, 0x22, 0x32)}, {QPalette::HighlightedText, QColor(0x13, 0x23, 0x33)},
-        {QPalette::Button, QColor(0x14, 0x24, 0x34)},    {QPalette::ButtonText, QColor(0x15, 0x25, 0x35)},
+        {QPalette::Base, QColor(0x10, 0x20, 0x30)},       {QPalette::Text, QColor(0x11, 0x21, 0x31)},
+        {QPalette::Highlight, QColor(0x12, 0x22, 0x32)},  {QPalette::HighlightedText, QColor(0x13, 0x23, 0x33)},
+        {QPalette::Button, QColor(0x14, 0x24, 0x34)},     {QPalette::ButtonText, QColor(0x15, 0x25, 0x35)},
         {QPalette::ToolTipBase, QColor(0x17, 0x27, 0x37)}};
     for (const auto& [role, color] : roles) palette.setColor(role, color);
     palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x16, 0x26, 0x36));
@@ -38,11 +38,16 @@ TEST_F(ColorTest, ResolvesSystemColoursAndSwapsTheChannelsForARGB) {
     TColor Color, RGB;
     TAlphaColor ARGB;
   } table[] = {
-      {clWindow, 0x302010, 0xFF102030u},     {clWindowText, 0x312111, 0xFF112131u},
-      {clHighlight, 0x322212, 0xFF122232u},  {clHighlightText, 0x332313, 0xFF132333u},
-      {clBtnFace, 0x342414, 0xFF142434u},    {SystemColor(scBtnText), 0x352515, 0xFF152535u},
-      {SystemColor(scGrayText), 0x362616, 0xFF162636u}, {SystemColor(scInfoBackground), 0x372717, 0xFF172737u},
-      {0x00336699, 0x00336699, 0xFF996633u}, {TColor(0xFF000019u), 0, 0xFF000000u},
+      {clWindow, 0x302010, 0xFF102030u},
+      {clWindowText, 0x312111, 0xFF112131u},
+      {clHighlight, 0x322212, 0xFF122232u},
+      {clHighlightText, 0x332313, 0xFF132333u},
+      {clBtnFace, 0x342414, 0xFF142434u},
+      {SystemColor(scBtnText), 0x352515, 0xFF152535u},
+      {SystemColor(scGrayText), 0x362616, 0xFF162636u},
+      {SystemColor(scInfoBackground), 0x372717, 0xFF172737u},
+      {0x00336699, 0x00336699, 0xFF996633u},
+      {TColor(0xFF000019u), 0, 0xFF000000u},
       {TColor(0xFF0000FEu), 0, 0xFF000000u},
   };
   for (const auto& row : table) {

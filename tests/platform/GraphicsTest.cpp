@@ -27,16 +27,15 @@ TEST(GraphicsTest, OutlinesLandOnTheExpectedPixels) {
     Single Width;
     TIGXPenAlignment Alignment;
     int First, Last, Thickness;
-  } cases[] = {
-      // Centred at width 1: one pixel more than the rectangle's width.
-      {TIGXRect(2, 2, 5, 5), 1, paCenter, 2, 7, 1},
-      {TIGXRect(2, 2, 8, 8), 1, paCenter, 2, 10, 1},
-      {TIGXRect(2, 2, 8, 8), 2, paCenter, 1, 10, 2},
-      {TIGXRect(2, 2, 8, 8), 3, paCenter, 1, 11, 3},
-      // Inset: within the rectangle's own pixels.
-      {TIGXRect(2, 2, 5, 5), 1, paInset, 2, 6, 1},
-      {TIGXRect(2, 2, 8, 8), 2, paInset, 2, 9, 2},
-      {TIGXRect(2, 2, 8, 8), 3, paInset, 2, 9, 3}};
+  } cases[] = {// Centred at width 1: one pixel more than the rectangle's width.
+               {TIGXRect(2, 2, 5, 5), 1, paCenter, 2, 7, 1},
+               {TIGXRect(2, 2, 8, 8), 1, paCenter, 2, 10, 1},
+               {TIGXRect(2, 2, 8, 8), 2, paCenter, 1, 10, 2},
+               {TIGXRect(2, 2, 8, 8), 3, paCenter, 1, 11, 3},
+               // Inset: within the rectangle's own pixels.
+               {TIGXRect(2, 2, 5, 5), 1, paInset, 2, 6, 1},
+               {TIGXRect(2, 2, 8, 8), 2, paInset, 2, 9, 2},
+               {TIGXRect(2, 2, 8, 8), 3, paInset, 2, 9, 3}};
   for (const auto& c : cases) {
     const QImage image = Paint(14, 14, [&](IGXGraphics& AGraphics) {
       const auto pen = New<TIGXPen>(claBlack, c.Width);
@@ -56,13 +55,16 @@ TEST(GraphicsTest, OutlinesLandOnTheExpectedPixels) {
 
 // Dash and gap lengths in pen widths, from the line's start.
 TEST(GraphicsTest, DashStylesRepeatTheirPatterns) {
-  const std::pair<TIGXDashStyle, const char*> cases[] = {
-      {dsSolid, "################"}, {dsDash, "###.###.###.###."},     {dsDot, "#.#.#.#.#.#.#.#."},
-      {dsDashDot, "###.#.###.#.###."}, {dsDashDotDot, "###.#.#.###.#.#."}};
+  const std::pair<TIGXDashStyle, const char*> cases[] = {{dsSolid, "################"},
+                                                         {dsDash, "###.###.###.###."},
+                                                         {dsDot, "#.#.#.#.#.#.#.#."},
+                                                         {dsDashDot, "###.#.###.#.###."},
+                                                         {dsDashDotDot, "###.#.#.###.#.#."}};
   for (const auto& [style, pixels] : cases) {
     const auto pen = New<TIGXPen>(claBlack, 1.0f);
     pen->SetDashStyle(style);
-    EXPECT_EQ(Row(Paint(20, 3, [&](IGXGraphics& AGraphics) { AGraphics.DrawLine(pen, 0, 1, 20, 1); }), 1, 0, 16), pixels);
+    EXPECT_EQ(Row(Paint(20, 3, [&](IGXGraphics& AGraphics) { AGraphics.DrawLine(pen, 0, 1, 20, 1); }), 1, 0, 16),
+              pixels);
   }
 
   const auto pen = New<TIGXPen>(claBlack, 2.0f);
@@ -80,7 +82,8 @@ TEST(GraphicsTest, DashStylesRepeatTheirPatterns) {
 
 // A right angle of width 6 turning at (10, 10): only the miters reach the outer corner.
 TEST(GraphicsTest, LineJoinsShapeTheOuterCorner) {
-  for (auto [join, cornerPainted] : {std::pair{ljMiter, true}, {ljBevel, false}, {ljRound, false}, {ljMiterClipped, true}}) {
+  for (auto [join, cornerPainted] :
+       {std::pair{ljMiter, true}, {ljBevel, false}, {ljRound, false}, {ljMiterClipped, true}}) {
     const QImage image = Paint(20, 20, [join](IGXGraphics& AGraphics) {
       const auto pen = New<TIGXPen>(claBlack, 6.0f);
       pen->SetLineJoin(join);
@@ -92,7 +95,10 @@ TEST(GraphicsTest, LineJoinsShapeTheOuterCorner) {
 }
 
 TEST(GraphicsTest, OnlyHighQualityAndAntiAliasSmooth) {
-  for (auto [mode, smooth] : {std::pair{smDefault, false}, {smHighSpeed, false}, {smNone, false}, {smHighQuality, true},
+  for (auto [mode, smooth] : {std::pair{smDefault, false},
+                              {smHighSpeed, false},
+                              {smNone, false},
+                              {smHighQuality, true},
                               {smAntiAlias, true}}) {
     const QImage image = Paint(20, 20, [mode](IGXGraphics& AGraphics) {
       AGraphics.SetSmoothingMode(mode);

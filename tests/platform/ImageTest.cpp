@@ -27,7 +27,8 @@ const TResourceRegistration NotAPictureResource("NOTAPICTURE", NotAPicture, size
 // The test picture's pixels as letters, the transparent one '?'.
 std::string Pixels(const TRef<TIGXBitmap>& ABitmap) {
   EXPECT_EQ(ABitmap->GetPixel(1, 1) >> 24, 0u);
-  return Colours(ABitmap->GetQImage(), 0, 0, ABitmap->GetWidth()) + "/" + Colours(ABitmap->GetQImage(), 1, 0, ABitmap->GetWidth());
+  return Colours(ABitmap->GetQImage(), 0, 0, ABitmap->GetWidth()) + "/" +
+         Colours(ABitmap->GetQImage(), 1, 0, ABitmap->GetWidth());
 }
 
 // A new bitmap is transparent; kept premultiplied, a translucent pixel comes back within rounding.

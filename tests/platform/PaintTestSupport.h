@@ -36,8 +36,9 @@ inline QImage Paint(int AWidth, int AHeight, const std::function<void(IGXGraphic
 
 // The whole canvas filled with ABrush.
 inline QImage FillWith(const TRef<IGXBrush>& ABrush, int AWidth, int AHeight, TAlphaColor ABackground = claWhite) {
-  return Paint(AWidth, AHeight, [&](IGXGraphics& AGraphics) { AGraphics.FillRectangle(ABrush, TIGXRect(0, 0, AWidth, AHeight)); },
-               ABackground);
+  return Paint(
+      AWidth, AHeight,
+      [&](IGXGraphics& AGraphics) { AGraphics.FillRectangle(ABrush, TIGXRect(0, 0, AWidth, AHeight)); }, ABackground);
 }
 
 // Two by two: red, green / blue, yellow.
@@ -85,8 +86,8 @@ inline std::string Row(const QImage& AImage, int AY, int AFrom, int ACount, TAlp
 
 // One row of pixels as the letters of the test colours: r, g, b, y, k (black), w (white), or '?'.
 inline std::string Colours(const QImage& AImage, int AY, int AFrom, int ACount) {
-  static const std::pair<TAlphaColor, char> letters[] = {{Red, 'r'}, {Green, 'g'}, {Blue, 'b'}, {Yellow, 'y'},
-                                                          {claBlack, 'k'}, {claWhite, 'w'}};
+  static const std::pair<TAlphaColor, char> letters[] = {{Red, 'r'},    {Green, 'g'},    {Blue, 'b'},
+                                                         {Yellow, 'y'}, {claBlack, 'k'}, {claWhite, 'w'}};
   std::string row(ACount, '?');
   for (int i = 0; i < ACount; ++i)
     for (auto [color, letter] : letters)

@@ -22,7 +22,8 @@ TRef<IGXStringFormat> Format(Cardinal AFlags, TIGXStringTrimming ATrimming = stN
 }
 
 // Measures on a scratch image, as a host measures before it paints.
-TIGXRect Measure(const String& AText, const TRef<IGXFont>& AFont, Single AWidth = 0, const TRef<IGXStringFormat>& AFormat = nullptr) {
+TIGXRect Measure(const String& AText, const TRef<IGXFont>& AFont, Single AWidth = 0,
+                 const TRef<IGXStringFormat>& AFormat = nullptr) {
   QImage scratch = Canvas(1, 1);
   return New<TIGXGraphics>(scratch)->MeasureString(AText, AFont, TIGXSize{AWidth, 0}, AFormat);
 }
@@ -82,7 +83,8 @@ TEST(DrawStringTest, AlignmentsPlaceTheTextInItsRectangle) {
     format->SetAlignment(c.Alignment);
     format->SetLineAlignment(c.LineAlignment);
     const QRect ink = Ink(Paint(120, 60, [&](IGXGraphics& AGraphics) {
-      AGraphics.DrawString("mmmm", Font(gfsRegular, 12, fuPixel), TIGXRect(0, 0, 120, 60), format, New<TIGXSolidBrush>(claBlack));
+      AGraphics.DrawString("mmmm", Font(gfsRegular, 12, fuPixel), TIGXRect(0, 0, 120, 60), format,
+                           New<TIGXSolidBrush>(claBlack));
     }));
     ASSERT_FALSE(ink.isEmpty());
     EXPECT_NEAR(ink.center().x(), c.CentreX, 12) << c.Alignment << "/" << c.LineAlignment;

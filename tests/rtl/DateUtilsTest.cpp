@@ -45,7 +45,7 @@ TEST(DateUtilsEncodeTest, RoundTrips) {
 }
 
 TEST(DateUtilsEncodeTest, InvalidPartsRaise) {
-  const std::array<Word, 3> dates[] = {{2023, 2, 29}, {1900, 2, 29}, {0, 1, 1},    {10000, 1, 1},
+  const std::array<Word, 3> dates[] = {{2023, 2, 29}, {1900, 2, 29}, {0, 1, 1},     {10000, 1, 1},
                                        {2024, 13, 1}, {2024, 0, 1},  {2024, 4, 31}, {2024, 1, 0}};
   TDateTime value = 0;
   for (const auto& d : dates) {
@@ -75,8 +75,13 @@ TEST(DateUtilsEncodeTest, DecodingRoundsAndChecksTheCalendar) {
 }
 
 TEST(DateUtilsPartsTest, DaysInMonthAndRecode) {
-  for (const auto& [year, month, days] : {std::array<Word, 3>{2024, 2, 29}, {2023, 2, 28}, {1900, 2, 28},
-                                          {2000, 2, 29}, {2024, 1, 31}, {2024, 4, 30}, {2024, 12, 31}}) {
+  for (const auto& [year, month, days] : {std::array<Word, 3>{2024, 2, 29},
+                                          {2023, 2, 28},
+                                          {1900, 2, 28},
+                                          {2000, 2, 29},
+                                          {2024, 1, 31},
+                                          {2024, 4, 30},
+                                          {2024, 12, 31}}) {
     EXPECT_EQ(DaysInAMonth(year, month), days) << year << "-" << month;
     EXPECT_EQ(DaysInMonth(EncodeDate(year, month, 15)), days);
   }
@@ -108,9 +113,14 @@ TEST(DateUtilsPartsTest, DaysInMonthAndRecode) {
 
 TEST(DateUtilsTextTest, FormatAndSettings) {
   const TDateTime value = EncodeDateTime(2005, 3, 4, 5, 6, 7, 8);
-  for (const auto& [format, text] : {std::pair{"yyyy-mm-dd", "2005-03-04"}, {"yy/m/d", "05-3-4"}, {"h:n:s", "5:6:7"},
-                                     {"hh:nn:ss.zzz", "05:06:07.008"}, {"z", "8"}, {"YYYY MM DD", "2005 03 04"},
-                                     {"dd.mm.yyyy", "04.03.2005"}, {"yyyy[T]hh", "2005[T]05"}})
+  for (const auto& [format, text] : {std::pair{"yyyy-mm-dd", "2005-03-04"},
+                                     {"yy/m/d", "05-3-4"},
+                                     {"h:n:s", "5:6:7"},
+                                     {"hh:nn:ss.zzz", "05:06:07.008"},
+                                     {"z", "8"},
+                                     {"YYYY MM DD", "2005 03 04"},
+                                     {"dd.mm.yyyy", "04.03.2005"},
+                                     {"yyyy[T]hh", "2005[T]05"}})
     EXPECT_EQ(FormatDateTime(format, value, TFormatSettings::Invariant()), text) << format;
 
   TFormatSettings settings;
@@ -125,15 +135,19 @@ TEST(DateUtilsTextTest, FormatAndSettings) {
 }
 
 TEST(DateUtilsTextTest, AcceptedTexts) {
-  const std::pair<const char*, TStamp> dates[] = {{"2024-02-29", {2024, 2, 29}}, {" 2024-2-9 ", {2024, 2, 9}},
-                                                  {"49-01-01", {2049, 1, 1}},    {"50-12-31", {1950, 12, 31}},
+  const std::pair<const char*, TStamp> dates[] = {{"2024-02-29", {2024, 2, 29}},
+                                                  {" 2024-2-9 ", {2024, 2, 9}},
+                                                  {"49-01-01", {2049, 1, 1}},
+                                                  {"50-12-31", {1950, 12, 31}},
                                                   {"0001-01-01", {1, 1, 1}}};
   for (const auto& [text, stamp] : dates) EXPECT_EQ(Decoded(StrToDate(text)), stamp) << text;
-  const std::pair<const char*, TStamp> times[] = {
-      {"12:00", {1899, 12, 30, 12}},       {"1:2:3", {1899, 12, 30, 1, 2, 3}},
-      {"12:00:00.5", {1899, 12, 30, 12, 0, 0, 500}}, {"23:59:59.999", {1899, 12, 30, 23, 59, 59, 999}},
-      {"12:30 AM", {1899, 12, 30, 0, 30}}, {"12:30 PM", {1899, 12, 30, 12, 30}},
-      {" 1:05pm ", {1899, 12, 30, 13, 5}}};
+  const std::pair<const char*, TStamp> times[] = {{"12:00", {1899, 12, 30, 12}},
+                                                  {"1:2:3", {1899, 12, 30, 1, 2, 3}},
+                                                  {"12:00:00.5", {1899, 12, 30, 12, 0, 0, 500}},
+                                                  {"23:59:59.999", {1899, 12, 30, 23, 59, 59, 999}},
+                                                  {"12:30 AM", {1899, 12, 30, 0, 30}},
+                                                  {"12:30 PM", {1899, 12, 30, 12, 30}},
+                                                  {" 1:05pm ", {1899, 12, 30, 13, 5}}};
   for (const auto& [text, stamp] : times) EXPECT_EQ(Decoded(StrToTime(text)), stamp) << text;
   EXPECT_EQ(Decoded(StrToDateTime("2024-02-29 12:00:00.250")), (TStamp{2024, 2, 29, 12, 0, 0, 250}));
   EXPECT_DOUBLE_EQ(StrToDateTime("1899-12-29   06:00"), -1.25);

@@ -2,7 +2,8 @@
 
 #include <string>
 
-#include "design/reflection/TypeInfo.h"
+#include "reflection/RttiTypes.h"
+#include "reflection/TypeInfo.h"
 #include "rtl/Module.h"
 #include "rtl/Object.h"
 
@@ -17,7 +18,8 @@ std::string DescribeModuleThing() {
   for (const TRef<IMemberInfo>& member : TRttiObjectHelper::ClassTypeInfo(thing)->GetMembers(mvsPublished)) {
     TRef<IValueMemberInfo> value;
     Supports(member, value);
-    text += member->GetName() + ":" + member->GetTypeInfo()->GetName() + "=" + value->GetDefault(nullptr).ToString() + " ";
+    text +=
+        member->GetName() + ":" + member->GetTypeInfo()->GetName() + "=" + value->GetDefault(nullptr).ToString() + " ";
   }
   return text;
 }

@@ -19,19 +19,19 @@ TEST(GuidTest, TextForms) {
 }
 
 class IGreeter : public virtual IInterface {
-  TARVO_INTERFACE(IGreeter, IInterface, "{0B7C3D7E-1F4A-4E57-9C1B-2F3D4E5A6B70}")
+  TARVO_INTERFACE(IGreeter, "{0B7C3D7E-1F4A-4E57-9C1B-2F3D4E5A6B70}", IInterface)
 public:
   virtual std::string Greet() = 0;
 };
 
 class ILoudGreeter : public virtual IGreeter {
-  TARVO_INTERFACE(ILoudGreeter, IGreeter, "{0B7C3D7E-1F4A-4E57-9C1B-2F3D4E5A6B71}")
+  TARVO_INTERFACE(ILoudGreeter, "{0B7C3D7E-1F4A-4E57-9C1B-2F3D4E5A6B71}", IGreeter)
 public:
   virtual std::string Shout() = 0;
 };
 
 class ICounter : public virtual IInterface {
-  TARVO_INTERFACE(ICounter, IInterface, "{0B7C3D7E-1F4A-4E57-9C1B-2F3D4E5A6B72}")
+  TARVO_INTERFACE(ICounter, "{0B7C3D7E-1F4A-4E57-9C1B-2F3D4E5A6B72}", IInterface)
 public:
   virtual int Next() = 0;
 };

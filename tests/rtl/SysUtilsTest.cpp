@@ -16,7 +16,8 @@ TFormatSettings CommaSettings() {
 }
 
 // Runs ATry on each text and compares the outcome, and the value when it succeeds.
-template <class T, class TTry> void ExpectParses(TTry ATry, std::initializer_list<std::tuple<const char*, bool, T>> ARows) {
+template <class T, class TTry>
+void ExpectParses(TTry ATry, std::initializer_list<std::tuple<const char*, bool, T>> ARows) {
   for (const auto& [text, ok, expected] : ARows) {
     T value{};
     EXPECT_EQ(ATry(text, value), ok) << text;
@@ -36,7 +37,10 @@ TEST(SysUtilsTextTest, ComparisonCaseAndTrim) {
   EXPECT_GT(CompareText("\xC3\xA9", "z"), 0); // unsigned bytes
   EXPECT_LT(CompareStr("B", "a"), 0);         // ordinal: upper case first
   EXPECT_GT(CompareStr("\x80", "a"), 0);
-  EXPECT_EQ(UpperCase("mIx\xC3\xA9" "d1"), "MIX\xC3\xA9" "D1");
+  EXPECT_EQ(UpperCase("mIx\xC3\xA9"
+                      "d1"),
+            "MIX\xC3\xA9"
+            "D1");
   EXPECT_EQ(LowerCase("MIX-ed"), "mix-ed");
 
   const String text = "\t \x01 a b\r\n"; // control characters are blanks, UTF-8 bytes are not
@@ -48,23 +52,47 @@ TEST(SysUtilsTextTest, ComparisonCaseAndTrim) {
 }
 
 TEST(SysUtilsIntegerTest, TextToInteger) {
-  ExpectParses<Integer>(
-      [](const char* AText, Integer& AValue) { return TryStrToInt(AText, AValue); },
-      {{"0", true, 0},          {"-0", true, 0},          {"+17", true, 17},         {"-17", true, -17},
-       {"007", true, 7},        {"$1f", true, 31},        {"0x1F", true, 31},        {"0X10", true, 16},
-       {"-$10", true, -16},     {"+0x10", true, 16},      {"$FFFFFFFF", true, -1},   {"$80000000", true, INT32_MIN},
-       {"2147483647", true, INT32_MAX},                   {"-2147483648", true, INT32_MIN},
-       {"2147483648", false, 0}, {"-2147483649", false, 0}, {"$100000000", false, 0}, {"99999999999999999999", false, 0},
-       {"", false, 0},          {" 1", false, 0},         {"1 ", false, 0},          {"12a", false, 0},
-       {"-", false, 0},         {"$", false, 0},          {"0x", false, 0},          {"$G", false, 0},
-       {"1.0", false, 0},       {"--1", false, 0}});
+  ExpectParses<Integer>([](const char* AText, Integer& AValue) { return TryStrToInt(AText, AValue); },
+                        {{"0", true, 0},
+                         {"-0", true, 0},
+                         {"+17", true, 17},
+                         {"-17", true, -17},
+                         {"007", true, 7},
+                         {"$1f", true, 31},
+                         {"0x1F", true, 31},
+                         {"0X10", true, 16},
+                         {"-$10", true, -16},
+                         {"+0x10", true, 16},
+                         {"$FFFFFFFF", true, -1},
+                         {"$80000000", true, INT32_MIN},
+                         {"2147483647", true, INT32_MAX},
+                         {"-2147483648", true, INT32_MIN},
+                         {"2147483648", false, 0},
+                         {"-2147483649", false, 0},
+                         {"$100000000", false, 0},
+                         {"99999999999999999999", false, 0},
+                         {"", false, 0},
+                         {" 1", false, 0},
+                         {"1 ", false, 0},
+                         {"12a", false, 0},
+                         {"-", false, 0},
+                         {"$", false, 0},
+                         {"0x", false, 0},
+                         {"$G", false, 0},
+                         {"1.0", false, 0},
+                         {"--1", false, 0}});
   ExpectParses<Int64>([](const char* AText, Int64& AValue) { return TryStrToInt64(AText, AValue); },
-                      {{"9223372036854775807", true, INT64_MAX}, {"-9223372036854775808", true, INT64_MIN},
-                       {"9223372036854775808", false, 0},        {"$FFFFFFFFFFFFFFFF", true, -1},
-                       {"$FFFFFFFF", true, 4294967295},          {"0x8000000000000000", true, INT64_MIN},
-                       {"$10000000000000000", false, 0},         {"-$1", true, -1}});
-  ExpectParses<UInt64>([](const char* AText, UInt64& AValue) { return TryStrToUInt64(AText, AValue); },
-                       {{"18446744073709551615", true, UINT64_MAX}, {"18446744073709551616", false, 0}, {"-1", false, 0}});
+                      {{"9223372036854775807", true, INT64_MAX},
+                       {"-9223372036854775808", true, INT64_MIN},
+                       {"9223372036854775808", false, 0},
+                       {"$FFFFFFFFFFFFFFFF", true, -1},
+                       {"$FFFFFFFF", true, 4294967295},
+                       {"0x8000000000000000", true, INT64_MIN},
+                       {"$10000000000000000", false, 0},
+                       {"-$1", true, -1}});
+  ExpectParses<UInt64>(
+      [](const char* AText, UInt64& AValue) { return TryStrToUInt64(AText, AValue); },
+      {{"18446744073709551615", true, UINT64_MAX}, {"18446744073709551616", false, 0}, {"-1", false, 0}});
   EXPECT_EQ(StrToInt("$7F"), 127);
   EXPECT_EQ(StrToInt64("-5000000000"), -5000000000);
   ExpectError([] { StrToInt("12a"); }, "'12a' is not a valid integer value");
@@ -90,11 +118,23 @@ TEST(SysUtilsFloatTest, FloatToStrGeneralForm) {
   const std::pair<Single, const char*> singles[] = {
       {0.1f, "0.1"}, {1.0f / 3, "0.3333333"}, {FLT_MAX, "3.402823E38"}, {1234567, "1234567"}, {12345678, "1.234568E7"}};
   for (const auto& [value, text] : singles) EXPECT_EQ(FloatToStr(value), text);
-  const std::pair<Extended, const char*> rows[] = {
-      {Extended(0.1f), "0.100000001490116"}, {1.0L / 3, "0.333333333333333"}, {1e20L, "1E20"}, {1.5e-7L, "1.5E-7"},
-      {DBL_MAX, "1.79769313486232E308"}, {-FLT_MAX, "-3.40282346638529E38"}, {100, "100"}, {0.00001L, "0.00001"},
-      {0.0000099L, "9.9E-6"}, {1e14L, "100000000000000"}, {1e15L, "1E15"}, {999999999999999.9L, "1E15"},
-      {-2.5L, "-2.5"}, {-0.0L, "0"}, {inf, "INF"}, {-inf, "-INF"}, {std::numeric_limits<Extended>::quiet_NaN(), "NAN"}};
+  const std::pair<Extended, const char*> rows[] = {{Extended(0.1f), "0.100000001490116"},
+                                                   {1.0L / 3, "0.333333333333333"},
+                                                   {1e20L, "1E20"},
+                                                   {1.5e-7L, "1.5E-7"},
+                                                   {DBL_MAX, "1.79769313486232E308"},
+                                                   {-FLT_MAX, "-3.40282346638529E38"},
+                                                   {100, "100"},
+                                                   {0.00001L, "0.00001"},
+                                                   {0.0000099L, "9.9E-6"},
+                                                   {1e14L, "100000000000000"},
+                                                   {1e15L, "1E15"},
+                                                   {999999999999999.9L, "1E15"},
+                                                   {-2.5L, "-2.5"},
+                                                   {-0.0L, "0"},
+                                                   {inf, "INF"},
+                                                   {-inf, "-INF"},
+                                                   {std::numeric_limits<Extended>::quiet_NaN(), "NAN"}};
   for (const auto& [value, text] : rows) EXPECT_EQ(FloatToStr(value), text);
 }
 
@@ -114,17 +154,33 @@ TEST(SysUtilsFloatTest, SeparatorComesFromTheSettings) {
 TEST(SysUtilsFloatTest, TextToNumbers) {
   ExpectParses<Extended>(
       [](const char* AText, Extended& AValue) { return TryStrToFloat(AText, AValue, TFormatSettings::Invariant()); },
-      {{" 1.5 ", true, 1.5L}, {"-2e3", true, -2000}, {"+.5", true, 0.5L}, {"5.", true, 5},     {"1E-2", true, 0.01L},
-       {"7e+1", true, 70},    {"", false, 0},        {".", false, 0},     {"1e", false, 0},    {"e5", false, 0},
-       {"1.2.3", false, 0},   {"1,5", false, 0},     {"1 2", false, 0},   {"inf", false, 0},   {"1e99999", false, 0}});
+      {{" 1.5 ", true, 1.5L},
+       {"-2e3", true, -2000},
+       {"+.5", true, 0.5L},
+       {"5.", true, 5},
+       {"1E-2", true, 0.01L},
+       {"7e+1", true, 70},
+       {"", false, 0},
+       {".", false, 0},
+       {"1e", false, 0},
+       {"e5", false, 0},
+       {"1.2.3", false, 0},
+       {"1,5", false, 0},
+       {"1 2", false, 0},
+       {"inf", false, 0},
+       {"1e99999", false, 0}});
   Double narrow = 0;
   EXPECT_FALSE(TryStrToFloat("1e400", narrow)); // fits Extended, not Double
   EXPECT_TRUE(TryStrToFloat("1,25", narrow, CommaSettings()));
   EXPECT_EQ(narrow, 1.25);
   ExpectError([] { StrToFloat("1.x"); }, "'1.x' is not a valid floating point value");
 
-  for (const auto& [scaled, text] : {std::pair<Int64, const char*>{15000, "1.5"}, {20000, "2"}, {-1, "-0.0001"},
-                                     {123456789, "12345.6789"}, {0, "0"}, {INT64_MIN, "-922337203685477.5808"}})
+  for (const auto& [scaled, text] : {std::pair<Int64, const char*>{15000, "1.5"},
+                                     {20000, "2"},
+                                     {-1, "-0.0001"},
+                                     {123456789, "12345.6789"},
+                                     {0, "0"},
+                                     {INT64_MIN, "-922337203685477.5808"}})
     EXPECT_EQ(CurrToStr(Currency::FromScaled(scaled)), text);
   Currency money;
   EXPECT_TRUE(TryStrToCurr("1.23456", money));
@@ -134,9 +190,14 @@ TEST(SysUtilsFloatTest, TextToNumbers) {
   EXPECT_FALSE(TryStrToCurr("1e30", money));
 
   EXPECT_EQ(BoolToStr(true, true) + BoolToStr(false, true) + BoolToStr(true) + BoolToStr(false), "TrueFalse-10");
-  for (const auto& [text, ok, expected] : {std::tuple{"true", true, true}, {"FALSE", true, false}, {"0", true, false},
-                                           {"-1", true, true}, {"0.0", true, false}, {" 2 ", true, true},
-                                           {"yes", false, false}, {"", false, false}}) {
+  for (const auto& [text, ok, expected] : {std::tuple{"true", true, true},
+                                           {"FALSE", true, false},
+                                           {"0", true, false},
+                                           {"-1", true, true},
+                                           {"0.0", true, false},
+                                           {" 2 ", true, true},
+                                           {"yes", false, false},
+                                           {"", false, false}}) {
     Boolean value = !expected;
     EXPECT_EQ(TryStrToBool(text, value), ok) << text;
     if (ok) {

@@ -16,8 +16,10 @@ namespace {
 TEST(TypeRecordTest, OrdinalRangesEnumerationsAndSets) {
   // Unsigned 32-bit limits are kept as bit patterns and read back unsigned.
   for (const auto& [type, min, max] : {std::tuple{&TypeInfo_Cardinal, Int64(0), Int64(4294967295)},
-                                       {&TypeInfo_ShortInt, -128, 127}, {&TypeInfo_WideChar, 0, 65535},
-                                       {&TypeInfo_Integer, INT32_MIN, INT32_MAX}, {&TypeInfo_Int64, INT64_MIN, INT64_MAX}}) {
+                                       {&TypeInfo_ShortInt, -128, 127},
+                                       {&TypeInfo_WideChar, 0, 65535},
+                                       {&TypeInfo_Integer, INT32_MIN, INT32_MAX},
+                                       {&TypeInfo_Int64, INT64_MIN, INT64_MAX}}) {
     EXPECT_EQ(type->OrdinalMin(), min) << type->Name;
     EXPECT_EQ(type->OrdinalMax(), max) << type->Name;
   }
@@ -49,14 +51,22 @@ TEST(ValueTest, EmptyValue) {
 
 TEST(ValueTest, ToStringByType) {
   const std::pair<TValue, const char*> rows[] = {
-      {TValue(-12), "-12"}, {TValue::From(Cardinal(4000000000u)), "4000000000"},
-      {TValue::From(UINT64_MAX), "18446744073709551615"}, {TValue(true), "True"}, {TValue::From(tfBanana), "tfBanana"},
-      {TValue::From(TTestFruits{tfApple, tfCherry}), "[tfApple,tfCherry]"}, {TValue::From(TTestFruits{}), "[]"},
-      {TValue::From('x'), "x"}, {TValue::From(u'\u00e9'), "\xc3\xa9"}, {TValue("abc"), "abc"},
-      {TValue::From(1.0f / 3.0f), "0.3333333"}, {TValue(2.5), "2.5"},
+      {TValue(-12), "-12"},
+      {TValue::From(Cardinal(4000000000u)), "4000000000"},
+      {TValue::From(UINT64_MAX), "18446744073709551615"},
+      {TValue(true), "True"},
+      {TValue::From(tfBanana), "tfBanana"},
+      {TValue::From(TTestFruits{tfApple, tfCherry}), "[tfApple,tfCherry]"},
+      {TValue::From(TTestFruits{}), "[]"},
+      {TValue::From('x'), "x"},
+      {TValue::From(u'\u00e9'), "\xc3\xa9"},
+      {TValue("abc"), "abc"},
+      {TValue::From(1.0f / 3.0f), "0.3333333"},
+      {TValue(2.5), "2.5"},
       {TValue::From(TDateTime(45351.5), &TypeInfo_TDateTime), "2024-02-29 12:00:00"},
       {TValue::From(TDateTime(45351.0), &TypeInfo_TDate), "2024-02-29"},
-      {TValue::From(Currency::FromScaled(15000)), "1.5"}, {TValue(static_cast<TObject*>(nullptr)), "nil"},
+      {TValue::From(Currency::FromScaled(15000)), "1.5"},
+      {TValue(static_cast<TObject*>(nullptr)), "nil"},
       {TValue::From(Variant(String("42"))), "42"},
   };
   for (const auto& [value, text] : rows) EXPECT_EQ(value.ToString(), text) << value.GetTypeInfo()->Name;
@@ -72,7 +82,8 @@ TEST(ValueTest, FromStringKeepsTheReceiversType) {
   } rows[] = {{TValue(7), "abc", false, "7"},
               {TValue(7), "$10", true, "16"},
               {TValue::From(Byte(1)), "300", false, "1"}, // does not fit the type
-              {TValue::From(Byte(1)), "-1", false, "1"}, {TValue::From(Byte(1)), "255", true, "255"},
+              {TValue::From(Byte(1)), "-1", false, "1"},
+              {TValue::From(Byte(1)), "255", true, "255"},
               {TValue::From(tfApple), "TFCHERRY", true, "tfCherry"},
               {TValue::From(tfApple), "tfDate", false, "tfApple"},
               {TValue::From(TTestFruits{}), "[tfBanana, tfCherry]", true, "[tfBanana,tfCherry]"},
@@ -102,7 +113,8 @@ TEST(ValueTest, ReadingAndCasting) {
   EXPECT_THROW(TValue(3).AsString(), EInvalidCast);
   EXPECT_THROW(TValue("3").AsOrdinal(), EInvalidCast);
   EXPECT_EQ(TValue::From(Variant(String("42"))).AsInteger(), 42);
-  for (const auto& [value, code] : {std::pair{TValue(5), varInteger}, {TValue("s"), varUString},
+  for (const auto& [value, code] : {std::pair{TValue(5), varInteger},
+                                    {TValue("s"), varUString},
                                     {TValue::From(Currency::FromScaled(10000)), varCurrency},
                                     {TValue::From(TDateTime(1), &TypeInfo_TDateTime), varDate}})
     EXPECT_EQ(value.AsVariant().VarType(), code) << value.ToString();
@@ -113,12 +125,15 @@ TEST(ValueTest, ReadingAndCasting) {
     PTypeInfo Target;
     const char* Result; // nil when the cast fails
   } casts[] = {{TValue(255), &TypeInfo_Byte, "255"},
-               {TValue(256), &TypeInfo_Byte, nullptr}, {TValue(-5), &TypeInfo_Cardinal, nullptr},
+               {TValue(256), &TypeInfo_Byte, nullptr},
+               {TValue(-5), &TypeInfo_Cardinal, nullptr},
                {TValue(Int64(4000000000)), &TypeInfo_Cardinal, "4000000000"},
-               {TValue::From(UInt64(1) << 63), &TypeInfo_Int64, nullptr}, {TValue(3), &TypeInfo_Double, "3"},
+               {TValue::From(UInt64(1) << 63), &TypeInfo_Int64, nullptr},
+               {TValue(3), &TypeInfo_Double, "3"},
                {TValue(2.5), &TypeInfo_Integer, nullptr},
                {TValue(1), TypeInfo<TTestFruit>(), nullptr}, // no integer into an enumeration
-               {TValue("x"), &TypeInfo_AnsiString, "x"}, {TValue::From(Variant(String("42"))), &TypeInfo_Byte, "42"},
+               {TValue("x"), &TypeInfo_AnsiString, "x"},
+               {TValue::From(Variant(String("42"))), &TypeInfo_Byte, "42"},
                {TValue::From(Variant(String("x"))), &TypeInfo_Integer, nullptr}};
   for (const auto& c : casts) {
     TValue result;
@@ -142,7 +157,7 @@ TEST(ValueTest, RawDataOfSets) {
 }
 
 class INamedThing : public virtual IInterface {
-  TARVO_INTERFACE(INamedThing, IInterface, "{5D0E8C61-93A7-4C5E-8F11-0A6B2C3D4E5F}")
+  TARVO_INTERFACE(INamedThing, "{5D0E8C61-93A7-4C5E-8F11-0A6B2C3D4E5F}", IInterface)
 public:
   virtual String Name() = 0;
 };

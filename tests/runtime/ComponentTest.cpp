@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "design/reflection/TypeInfo.h"
+#include "reflection/RttiTypes.h"
+#include "reflection/TypeInfo.h"
 #include "runtime/LockItem.h"
 #include "tests/runtime/ComponentTestSupport.h"
 
@@ -97,7 +98,8 @@ TEST(ComponentOwnershipTest, OwnerDestroysItsComponentsLastFirstTellingEach) {
   EXPECT_EQ(log, (TLog{"Owner: insert A", "A: insert B", "Owner: insert B"})); // siblings hear too
   log.clear();
   TObject::Free(owner);
-  EXPECT_EQ(log, (TLog{"A: remove B", "Owner: remove B", "destroy B", "Owner: remove A", "destroy A", "destroy Owner"}));
+  EXPECT_EQ(log,
+            (TLog{"A: remove B", "Owner: remove B", "destroy B", "Owner: remove A", "destroy A", "destroy Owner"}));
 }
 
 TEST(ComponentOwnershipTest, ComponentsMoveBetweenOwnersAndLeaveOnTheirOwn) {
@@ -151,7 +153,8 @@ TEST(ComponentStateTest, ConstructorsSeeTheStateAskedOfCreateComponent) {
       EXPECT_EQ(component->Owner(), owner.get());
     }
   // An owned part made inside a constructor takes designing from its owner, not loading.
-  const TComponentPtr compound(TComponentHelper::CreateComponent(TTestCompoundComponent::ClassInfo(), nullptr, true, true));
+  const TComponentPtr compound(
+      TComponentHelper::CreateComponent(TTestCompoundComponent::ClassInfo(), nullptr, true, true));
   EXPECT_EQ(static_cast<TTestCompoundComponent*>(compound.get())->PartState, TComponentState{csDesigning});
   // The pending state was taken, also by a creation that failed: a component made afterwards
   // starts clean.
@@ -159,7 +162,8 @@ TEST(ComponentStateTest, ConstructorsSeeTheStateAskedOfCreateComponent) {
     return TOwnedObject<TTestLogComponent>(Construct<TTestLogComponent>(nullptr))->StateAtConstruction.IsEmpty();
   };
   EXPECT_TRUE(startsClean());
-  EXPECT_THROW(TComponentHelper::CreateComponent(TTestAbstractComponent::ClassInfo(), nullptr, true, true), EInvalidCast);
+  EXPECT_THROW(TComponentHelper::CreateComponent(TTestAbstractComponent::ClassInfo(), nullptr, true, true),
+               EInvalidCast);
   EXPECT_TRUE(startsClean());
 }
 

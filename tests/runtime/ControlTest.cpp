@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "design/reflection/TypeInfo.h"
+#include "reflection/RttiTypes.h"
+#include "reflection/TypeInfo.h"
 #include "runtime/Popups.h"
 #include "runtime/Shape.h"
 #include "tests/runtime/ComponentTestSupport.h"
@@ -21,7 +22,8 @@ TEST(ControlReflectionTest, MembersHaveTheirNamedTypes) {
   const TOwnedObject<TControl> control(Construct<TControl>(nullptr));
   const std::pair<const char*, PTypeInfo> cases[] = {
       {"Color", &TypeInfo_TColor}, {"Cursor", &TypeInfo_TCursor}, {"HelpContext", &TypeInfo_THelpContext}};
-  for (const auto& [name, type] : cases) EXPECT_EQ(PropertyOf(control.get(), name)->GetTypeInfo()->GetHandle(), type) << name;
+  for (const auto& [name, type] : cases)
+    EXPECT_EQ(PropertyOf(control.get(), name)->GetTypeInfo()->GetHandle(), type) << name;
   TRef<ISetTypeInfo> anchors;
   ASSERT_TRUE(Supports(PropertyOf(control.get(), "Anchors")->GetTypeInfo(), anchors));
   EXPECT_EQ(anchors->GetElementType()->GetHandle(), TypeInfo<TAnchorKind>());
@@ -30,9 +32,16 @@ TEST(ControlReflectionTest, MembersHaveTheirNamedTypes) {
 TEST(ControlReflectionTest, DeclaredDefaultsHoldForANewControlAndNotAfterAWrite) {
   const TOwnedObject<TWinControl> control(Construct<TWinControl>(nullptr));
   const std::pair<const char*, const char*> cases[] = {
-      {"Visible", "False"},     {"Enabled", "False"},      {"Color", "255"},       {"Cursor", "-21"},
-      {"Align", "alClient"},    {"Anchors", "[akLeft]"},   {"HelpType", "htKeyword"}, {"HelpContext", "7"},
-      {"ParentCustomHint", "False"}, {"Tag", "1"},
+      {"Visible", "False"},
+      {"Enabled", "False"},
+      {"Color", "255"},
+      {"Cursor", "-21"},
+      {"Align", "alClient"},
+      {"Anchors", "[akLeft]"},
+      {"HelpType", "htKeyword"},
+      {"HelpContext", "7"},
+      {"ParentCustomHint", "False"},
+      {"Tag", "1"},
   };
   for (const auto& [name, other] : cases) {
     const TRef<ISinglePropertyInfo> property = PropertyOf(control.get(), name);

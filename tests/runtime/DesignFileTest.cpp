@@ -5,12 +5,12 @@
 
 #include <nlohmann/json.hpp>
 
-#include "design/reflection/Publish.h"
+#include "reflection/Publish.h"
+#include "rtl/SysUtils.h"
 #include "runtime/Controls.h"
 #include "runtime/DesignFile.h"
 #include "runtime/Events.h"
 #include "runtime/Shape.h"
-#include "rtl/SysUtils.h"
 
 namespace Tarvo {
 
@@ -23,7 +23,9 @@ public:
   Integer FLevel = 5;
 };
 TARVO_IMPLEMENT_CLASS(TDesignFileTestPart)
-TARVO_PUBLISH(TDesignFileTestPart) { Property("Level", &TDesignFileTestPart::FLevel, &TDesignFileTestPart::FLevel).Default(5); }
+TARVO_PUBLISH(TDesignFileTestPart) {
+  Property("Level", &TDesignFileTestPart::FLevel, &TDesignFileTestPart::FLevel).Default(5);
+}
 
 class TDesignFileTestGauge : public TComponent {
   TARVO_CLASS(TDesignFileTestGauge, TComponent)
@@ -149,8 +151,9 @@ TEST_F(DesignFileTest, ChildrenAreOwnedByTheRootAndParentedOnlyToAWindowControl)
   // Top-level controls of a window root are parented to it and see its designing state.
   TOwnedObject<TWinControl> root(Construct<TWinControl>(nullptr));
   TComponentHelper::SetIntDesigning(root.get(), true, false);
-  const std::vector<TComponent*> made =
-      ReadDesign(Design(R"({"class": "TShape", "name": "Shape1"}, {"class": "TDesignFileTestGauge", "name": "Gauge1"})"), root.get());
+  const std::vector<TComponent*> made = ReadDesign(
+      Design(R"({"class": "TShape", "name": "Shape1"}, {"class": "TDesignFileTestGauge", "name": "Gauge1"})"),
+      root.get());
   EXPECT_EQ(static_cast<TShape*>(made[0])->GetParent(), root.get());
   EXPECT_TRUE(made[1]->ComponentState().Contains(csDesigning));
 }
@@ -160,7 +163,8 @@ TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
       {Design(R"({"class": "TFoo", "name": "Foo1"})"), "Unknown class 'TFoo' for component 'Foo1'"},
       {Design(R"({"class": "TFont", "name": "Font1"})"), "Class 'TFont' of component 'Font1' is no component class"},
       {Design(R"({"class": "TShape", "name": "Shape1"}, {"class": "TDesignFileTestAbstract", "name": "Abstract1"})"),
-       "Cannot create component 'Abstract1' of class 'TDesignFileTestAbstract': Cannot create an instance of the abstract class"},
+       "Cannot create component 'Abstract1' of class 'TDesignFileTestAbstract': Cannot create an instance of the "
+       "abstract class"},
       {Gauge1(R"("Colour": "1")"), "Unknown property 'Colour' of component 'Gauge1' (TDesignFileTestGauge)"},
       {Gauge1(R"("Secret": "1")"), "Unknown property 'Secret' of component 'Gauge1' (TDesignFileTestGauge)"},
       {Gauge1(R"("Value.Low": "1")"), "Unknown property 'Value.Low' of component 'Gauge1' (TDesignFileTestGauge)"},
@@ -200,9 +204,9 @@ TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
 TEST_F(DesignFileTest, ErrorsOfAFileNameTheFile) {
   const String path = ::testing::TempDir() + "design_file_test.json";
   std::ofstream(path) << Design(R"({"class": "TFoo", "name": "Foo1"})");
-  for (const auto& [file, message] : {std::pair<String, String>{"/nonexistent/design.json",
-                                                                "Cannot open design file '/nonexistent/design.json'"},
-                                      {path, path + ": Unknown class 'TFoo' for component 'Foo1'"}}) {
+  for (const auto& [file, message] :
+       {std::pair<String, String>{"/nonexistent/design.json", "Cannot open design file '/nonexistent/design.json'"},
+        {path, path + ": Unknown class 'TFoo' for component 'Foo1'"}}) {
     try {
       ReadDesignFile(file, FRoot.get());
       ADD_FAILURE() << "read " << file;

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "design/reflection/Publish.h"
+#include "reflection/Publish.h"
+#include "reflection/RttiTypes.h"
 #include "runtime/Component.h"
 #include "runtime/Events.h"
 
@@ -70,7 +71,8 @@ TEST_F(EventsTest, AHandlerWrittenThroughReflectionIsFiredWithItsArgumentsAndRea
   EXPECT_FALSE(FSource->FOnChange);
 
   Integer total = 0;
-  Member("OnStep")->SetValue(FSource.get(), TValue::From(TTestStepEvent([&](TObject*, Integer ACount) { total += ACount; })));
+  Member("OnStep")->SetValue(FSource.get(),
+                             TValue::From(TTestStepEvent([&](TObject*, Integer ACount) { total += ACount; })));
   FSource->FOnStep(FSource.get(), 3);
   FSource->FOnStep(FSource.get(), 4);
   EXPECT_EQ(total, 7);

@@ -2,7 +2,8 @@
 
 #include <functional>
 
-#include "design/reflection/TypeInfo.h"
+#include "reflection/RttiTypes.h"
+#include "reflection/TypeInfo.h"
 #include "runtime/Graphics.h"
 
 namespace Tarvo {
@@ -20,9 +21,17 @@ TEST(GraphicsNotificationTest, EachReflectedWriteThatChangesAValueTellsOnce) {
   const TMaker font = [] { return Construct<TFont>(); }, pen = [] { return Construct<TPen>(); },
                brush = [] { return Construct<TBrush>(); };
   const std::tuple<TMaker, const char*, const char*> cases[] = {
-      {font, "Name", "Serif"},   {font, "Size", "12"},      {font, "Height", "-20"}, {font, "Color", "255"},
-      {font, "Style", "[fsBold,fsItalic]"}, {font, "Charset", "0"}, {pen, "Color", "255"},  {pen, "Width", "3"},
-      {pen, "Style", "psDot"},   {brush, "Color", "0"},     {brush, "Style", "bsCross"},
+      {font, "Name", "Serif"},
+      {font, "Size", "12"},
+      {font, "Height", "-20"},
+      {font, "Color", "255"},
+      {font, "Style", "[fsBold,fsItalic]"},
+      {font, "Charset", "0"},
+      {pen, "Color", "255"},
+      {pen, "Width", "3"},
+      {pen, "Style", "psDot"},
+      {brush, "Color", "0"},
+      {brush, "Style", "bsCross"},
   };
   for (const auto& [make, name, text] : cases) {
     const TOwnedObject<TChangeNotifyPersistent> object(make());

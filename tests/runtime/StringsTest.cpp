@@ -56,10 +56,7 @@ TEST(StringListTextTest, CommaTextQuotesWhatWouldNotSurviveAndReadsItBack) {
   EXPECT_EQ(LinesOf(*copy), lines);
   const std::pair<const char*, TLines> parsed[] = {
       {"a b,c", {"a", "b", "c"}}, // blanks separate outside quotes
-      {"a,,b", {"a", "", "b"}},
-      {"a,", {"a", ""}},
-      {"  \"q r\" , s", {"q r", "s"}},
-      {"", {}},
+      {"a,,b", {"a", "", "b"}},   {"a,", {"a", ""}}, {"  \"q r\" , s", {"q r", "s"}}, {"", {}},
   };
   for (const auto& [text, expected] : parsed) {
     copy->SetCommaText(text);

@@ -4,8 +4,9 @@
 
 #include <algorithm>
 
-#include "design/reflection/DesignComponents.h"
-#include "design/reflection/TypeInfo.h"
+#include "reflection/ComponentRegistration.h"
+#include "reflection/RttiTypes.h"
+#include "reflection/TypeInfo.h"
 #include "rtl/Module.h"
 #include "runtime/Component.h"
 #include "runtime/Controls.h"
@@ -68,7 +69,8 @@ TEST_F(SamplesTest, TheModuleRegistersItsClassesAndTakesThemAlongWhenItUnloads) 
   while (FRoot->ComponentCount() > 0) TObject::Free(FRoot->Components(FRoot->ComponentCount() - 1));
   UnloadModule(std::exchange(FModule, nullptr));
   for (const char* name : names) EXPECT_EQ(FindClass(name), nullptr) << name;
-  for (const TClass registered : GetRegisteredComponents()->ToArray()) EXPECT_NE(GetComponentPage(registered), "Signal");
+  for (const TClass registered : GetRegisteredComponents()->ToArray())
+    EXPECT_NE(GetComponentPage(registered), "Signal");
   try {
     ReadDesignFile(SampleDesign, FRoot.get());
     FAIL() << "the design read without its module";
@@ -137,7 +139,9 @@ TEST_F(SamplesTest, MethodsAndSettersRunThroughTheReflection) {
   EXPECT_TRUE(Read(generator, "Running").AsBoolean());
 
   std::vector<TObject*> senders;
-  Property(generator, "OnStart")->SetValue(generator, TValue::From(TNotifyEvent([&](TObject* ASender) { senders.push_back(ASender); })));
+  Property(generator, "OnStart")->SetValue(generator, TValue::From(TNotifyEvent([&](TObject* ASender) {
+                                             senders.push_back(ASender);
+                                           })));
   Invoke(generator, "Start");
   EXPECT_EQ(senders, std::vector<TObject*>{generator});
   EXPECT_EQ(Read(generator, "SampleCount").AsInt64(), 0);

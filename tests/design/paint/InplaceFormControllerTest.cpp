@@ -28,7 +28,9 @@ public:
   TGridLog(std::string AName, std::vector<std::string>* ALog) : FName(std::move(AName)), FLog(ALog) {}
   void EndEdit() override { FLog->push_back(FName + ".EndEdit"); }
   void Invalidate() override { FLog->push_back(FName + ".Invalidate"); }
-  void Refresh(Boolean AReadValues) override { FLog->push_back(FName + ".Refresh(" + (AReadValues ? "true" : "false") + ")"); }
+  void Refresh(Boolean AReadValues) override {
+    FLog->push_back(FName + ".Refresh(" + (AReadValues ? "true" : "false") + ")");
+  }
   QWidget* GetControl() override { return nullptr; }
 
 private:

@@ -78,7 +78,8 @@ class TPropertyOnlyEditor : public TImplements<TInterfacedObject, IPropertyEdito
 public:
   void ValueMouseDown(TMouseButton, TShiftState, Integer, Integer, const TRef<IMemberUIUpdate>&, const TIGXRect&,
                       Boolean&) override {}
-  void ValueMouseMove(TShiftState, Integer, Integer, const TRef<IMemberUIUpdate>&, const TIGXRect&, Boolean&) override {}
+  void ValueMouseMove(TShiftState, Integer, Integer, const TRef<IMemberUIUpdate>&, const TIGXRect&, Boolean&) override {
+  }
   void ValueMouseUp(TMouseButton, TShiftState, Integer, Integer, const TRef<IMemberUIUpdate>&, const TIGXRect&,
                     Boolean&) override {}
   String GetCustomHint() override { return "hint"; }

@@ -1,5 +1,5 @@
 // A module of its own for the module tests: a published class with an enumeration, and a resource.
-#include "design/reflection/Publish.h"
+#include "reflection/Publish.h"
 #include "rtl/Module.h"
 
 namespace Tarvo {

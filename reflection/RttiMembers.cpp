@@ -1,4 +1,6 @@
-#include "design/reflection/RttiMembers.h"
+#include "reflection/RttiMembers.h"
+
+#include "reflection/RttiTypes.h"
 
 namespace Tarvo {
 
@@ -37,11 +39,16 @@ public:
     if (Entry()->HasDefault) return SameValue(value, Entry()->Default);
     // Without a declared default only an empty text, a zero float or a nil reference is default.
     switch (value.GetTypeKind()) {
-    case tkFloat: return value.AsExtended() == 0;
-    case tkClass: return value.AsObject() == nullptr;
-    case tkInterface: return !value.AsInterface();
-    case tkMethod: return TypeRecord()->IsAssigned && !TypeRecord()->IsAssigned(value.GetReferenceToRawData());
-    default: return TypeRecord()->IsString() && value.AsString().empty();
+    case tkFloat:
+      return value.AsExtended() == 0;
+    case tkClass:
+      return value.AsObject() == nullptr;
+    case tkInterface:
+      return !value.AsInterface();
+    case tkMethod:
+      return TypeRecord()->IsAssigned && !TypeRecord()->IsAssigned(value.GetReferenceToRawData());
+    default:
+      return TypeRecord()->IsString() && value.AsString().empty();
     }
   }
 };
@@ -127,10 +134,14 @@ public:
 
 TRef<IMemberInfo> CreateMemberInfo(const TMemberEntry& AEntry) {
   switch (AEntry.Kind) {
-  case TMemberEntryKind::Property: return New<TRttiPropertyInfo>(AEntry);
-  case TMemberEntryKind::IndexedProperty: return New<TRttiIndexedPropertyInfo>(AEntry);
-  case TMemberEntryKind::Field: return New<TRttiFieldInfo>(AEntry);
-  case TMemberEntryKind::Method: return New<TRttiMethodInfo>(AEntry);
+  case TMemberEntryKind::Property:
+    return New<TRttiPropertyInfo>(AEntry);
+  case TMemberEntryKind::IndexedProperty:
+    return New<TRttiIndexedPropertyInfo>(AEntry);
+  case TMemberEntryKind::Field:
+    return New<TRttiFieldInfo>(AEntry);
+  case TMemberEntryKind::Method:
+    return New<TRttiMethodInfo>(AEntry);
   }
   return nullptr;
 }

@@ -1,9 +1,11 @@
 // Type infos: one object per type record, made on first request and kept until the module that
 // declares the type goes away.
-#include <map>
 #include <unordered_map>
 
-#include "design/reflection/RttiMembers.h"
+#include "reflection/RttiMembers.h"
+#include "reflection/RttiTypes.h"
+#include "rtl/KeyedHandlers.h"
+#include "rtl/ModuleSwept.h"
 
 namespace Tarvo {
 
@@ -85,7 +87,9 @@ public:
   }
 
   TRef<IMembersInfo> GetMembers(TMemberVisibilities AFilter) override {
-    return Collect([AFilter](const TRef<IMemberInfo>& AMember) { return (AFilter & VisibilityBit(AMember->GetVisibility())) != 0; });
+    return Collect([AFilter](const TRef<IMemberInfo>& AMember) {
+      return (AFilter & VisibilityBit(AMember->GetVisibility())) != 0;
+    });
   }
   TRef<IMembersInfo> GetAllMembers() override { return GetMembers(mvsAll); }
   TRef<IMembersInfo> GetAllMethods() override {
@@ -160,7 +164,8 @@ private:
   const std::unordered_map<String, std::vector<TRef<IMemberInfo>>>& NameIndex() {
     if (FIndexGeneration == GMembersGeneration) return FNameIndex;
     FNameIndex.clear();
-    for (TRttiClassTypeInfo* info = this; info; info = info->FClass->ClassParent() ? Of(info->FClass->ClassParent()) : nullptr)
+    for (TRttiClassTypeInfo* info = this; info;
+         info = info->FClass->ClassParent() ? Of(info->FClass->ClassParent()) : nullptr)
       for (const TRef<IMemberInfo>& member : info->FOwnMembers) FNameIndex[member->GetName()].push_back(member);
     FIndexGeneration = GMembersGeneration;
     return FNameIndex;
@@ -171,7 +176,6 @@ public:
   static TRttiClassTypeInfo* Of(TClass AClass);
 
 private:
-
   TClass FClass;
   std::vector<TRef<IMemberInfo>> FOwnMembers;
   std::unordered_map<String, std::vector<TRef<IMemberInfo>>> FNameIndex;
@@ -200,15 +204,8 @@ struct TTypeInfoCache {
     TRef<ITypeInfo> Type;
     TRttiClassTypeInfo* Class = nullptr;
   };
-  std::unordered_map<PTypeInfo, TEntry> Types;
-  std::map<int, TProc<TObject*>> MemberChangeHandlers;
-  int NextKey = 1;
-
-  TTypeInfoCache() {
-    AddModuleUnloadProc([this](TModule* AModule) {
-      std::erase_if(Types, [AModule](const auto& AEntry) { return AEntry.first->Module() == AModule; });
-    });
-  }
+  TModuleSwept<std::unordered_map<PTypeInfo, TEntry>> Types{KeyBelongsTo};
+  TKeyedHandlers<TObject*> MemberChangeHandlers;
 };
 
 TTypeInfoCache& Cache() {
@@ -217,7 +214,7 @@ TTypeInfoCache& Cache() {
 }
 
 const TTypeInfoCache::TEntry& CacheEntry(PTypeInfo ATypeRecord) {
-  TTypeInfoCache::TEntry& entry = Cache().Types[ATypeRecord];
+  TTypeInfoCache::TEntry& entry = Cache().Types.Items()[ATypeRecord];
   if (entry.Type) return entry;
   if (ATypeRecord->Kind == tkClass) {
     const TRef<TRttiClassTypeInfo> info = New<TRttiClassTypeInfo>(ATypeRecord->ClassType);
@@ -239,8 +236,9 @@ TRef<ITypeInfo> TTypeInfoHelper::TypeInfo(PTypeInfo ATypeRecord) {
 
 void ReloadClassMembers(TClass AClass) {
   ++GMembersGeneration;
-  const auto found = Cache().Types.find(AClass->ClassTypeRecord());
-  if (found != Cache().Types.end()) found->second.Class->LoadOwnMembers();
+  const auto& types = Cache().Types.Items();
+  const auto found = types.find(AClass->ClassTypeRecord());
+  if (found != types.end()) found->second.Class->LoadOwnMembers();
 }
 
 TRef<IClassTypeInfo> TRttiObjectHelper::ClassTypeInfo(TClass AClass) {
@@ -256,17 +254,12 @@ TRef<IClassTypeInfo> TRttiObjectHelper::TypeInfo(TObject* AObject, bool AInclude
   return New<TRttiInstanceTypeInfo>(AObject->ClassType(), table->DynamicMembers(AObject));
 }
 
-void NotifyTypeInfoMemberValueChanges(TObject* AInstance) {
-  const auto handlers = Cache().MemberChangeHandlers;
-  for (const auto& [key, handler] : handlers) handler(AInstance);
-}
+void NotifyTypeInfoMemberValueChanges(TObject* AInstance) { Cache().MemberChangeHandlers.Run(AInstance); }
 
 int AddTypeInfoMemberValueChangesHandler(TProc<TObject*> AHandler) {
-  TTypeInfoCache& cache = Cache();
-  cache.MemberChangeHandlers.emplace(cache.NextKey, std::move(AHandler));
-  return cache.NextKey++;
+  return Cache().MemberChangeHandlers.Add(std::move(AHandler));
 }
 
-void RemoveTypeInfoMemberValueChangesHandler(int AKey) { Cache().MemberChangeHandlers.erase(AKey); }
+void RemoveTypeInfoMemberValueChangesHandler(int AKey) { Cache().MemberChangeHandlers.Remove(AKey); }
 
 } // namespace Tarvo

@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "design/reflection/MemberInfo.h"
-#include "design/reflection/Publish.h"
+#include "reflection/MemberInfo.h"
+#include "reflection/Publish.h"
+#include "reflection/RttiTypes.h"
 
 namespace Tarvo {
 
@@ -109,7 +110,8 @@ TRef<ITypeInfo> TypeOf(TClass AClass) { return TypeOf(AClass->ClassTypeRecord())
 
 TEST(ReflectionTest, TypeInfosAreUniqueAndAnswerByKind) {
   TTestMachine machine;
-  EXPECT_TRUE(TRttiObjectHelper::TypeInfo(&machine, false) == TRttiObjectHelper::ClassTypeInfo(TTestMachine::ClassInfo()));
+  EXPECT_TRUE(TRttiObjectHelper::TypeInfo(&machine, false) ==
+              TRttiObjectHelper::ClassTypeInfo(TTestMachine::ClassInfo()));
   EXPECT_TRUE(MemberOf(&machine, "Part")->GetTypeInfo() == TypeOf(TTestMachine::ClassInfo()));
 
   TRef<IEnumerationTypeInfo> enumeration;
@@ -134,7 +136,8 @@ TEST(ReflectionTest, VisibilityFiltersKeepAncestorsFirst) {
   const TRef<IClassTypeInfo> fast = TRttiObjectHelper::ClassTypeInfo(TTestFastMachine::ClassInfo());
   EXPECT_EQ(Names(fast->GetMembers(mvsPublished)), (TNames{"Speed", "Name", "Level", "Part", "Count", "Turbo"}));
   EXPECT_EQ(Names(fast->GetMembers(VisibilityBit(mvPublic))), (TNames{"Describe", "Stop", "Gears", "Code"}));
-  EXPECT_EQ(Names(fast->GetMembers(VisibilityBit(mvProtected) | VisibilityBit(mvPrivate))), (TNames{"Hidden", "FSecret"}));
+  EXPECT_EQ(Names(fast->GetMembers(VisibilityBit(mvProtected) | VisibilityBit(mvPrivate))),
+            (TNames{"Hidden", "FSecret"}));
   EXPECT_EQ(Names(fast->GetAllMethods()), (TNames{"Describe", "Stop"}));
   EXPECT_EQ(Names(fast->GetFields()), TNames{"FSecret"});
   EXPECT_EQ(fast->GetAllMembers()->GetCount(), 12);
@@ -222,7 +225,8 @@ TEST(ReflectionTest, MethodsInvokeWithTheirParameterText) {
   EXPECT_FALSE(stop->GetTypeInfo());
   EXPECT_TRUE(describe->GetHasExtendedInfo());
   TNames texts;
-  for (const TRef<IParameterInfo>& parameter : describe->GetParameters()) texts.push_back(parameter->GetParameterText());
+  for (const TRef<IParameterInfo>& parameter : describe->GetParameters())
+    texts.push_back(parameter->GetParameterText());
   EXPECT_EQ(texts, (TNames{"ATimes: Integer", "AWhat: string"}));
   EXPECT_EQ(describe->Invoke(&machine, {TValue(Int64(2)), TValue("gear")}).AsString(), "gear x2");
   stop->Invoke(&machine, {});

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The members a class publishes, as written in its registration table: one entry a member, with
 // type-erased accessors over TObject. The reflection layer builds its member infos over these.
 
@@ -6,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "design/reflection/TypeInfo.h"
+#include "reflection/TypeInfo.h"
 
 namespace Tarvo {
 
@@ -66,3 +67,5 @@ void RegisterMemberTable(std::unique_ptr<TClassMemberTable> ATable);
 const TClassMemberTable* FindMemberTable(TClass AClass);
 
 } // namespace Tarvo
+
+#pragma GCC visibility pop

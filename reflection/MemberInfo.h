@@ -1,8 +1,9 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The base classes of reflected things. Members that no class declares (virtual members of the
 // design core) derive from them as well as the members over registration tables.
 
-#include "design/reflection/MemberTable.h"
+#include "reflection/MemberTable.h"
 
 namespace Tarvo {
 
@@ -84,7 +85,6 @@ public:
   void SetFromString(TObject* AInstance, const String& AText) override;
 };
 
-// The attributes attached to a type record (a class included), in declaration order.
-std::vector<TCustomAttribute*> TypeAttributes(PTypeInfo AType);
-
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,25 +1,19 @@
-#include "design/reflection/MemberTable.h"
+#include "reflection/MemberTable.h"
 
 #include <map>
 
-#include "design/reflection/RttiMembers.h"
+#include "reflection/RttiMembers.h"
+#include "reflection/RttiTypes.h"
+#include "rtl/ModuleSwept.h"
 
 namespace Tarvo {
 
 namespace {
-struct TMemberTableRegistry {
-  std::map<TClass, std::unique_ptr<TClassMemberTable>> Tables;
+using TTables = std::map<TClass, std::unique_ptr<TClassMemberTable>>;
 
-  TMemberTableRegistry() {
-    AddModuleUnloadProc([this](TModule* AModule) {
-      std::erase_if(Tables, [AModule](const auto& AEntry) { return AEntry.first->Module() == AModule; });
-    });
-  }
-};
-
-TMemberTableRegistry& MemberTableRegistry() {
-  static TMemberTableRegistry registry;
-  return registry;
+TTables& Tables() {
+  static TModuleSwept<TTables> registry(KeyBelongsTo);
+  return registry.Items();
 }
 } // namespace
 
@@ -31,14 +25,14 @@ std::vector<TCustomAttribute*> TMemberEntry::AttributeList() const {
 
 void RegisterMemberTable(std::unique_ptr<TClassMemberTable> ATable) {
   const TClass cls = ATable->Class;
-  MemberTableRegistry().Tables[cls] = std::move(ATable);
+  Tables()[cls] = std::move(ATable);
   // A module's classes publish while it loads, and a registration hook may have asked for the
   // type of one of them before its table came.
   ReloadClassMembers(cls);
 }
 
 const TClassMemberTable* FindMemberTable(TClass AClass) {
-  const auto& tables = MemberTableRegistry().Tables;
+  const TTables& tables = Tables();
   const auto found = tables.find(AClass);
   return found == tables.end() ? nullptr : found->second.get();
 }

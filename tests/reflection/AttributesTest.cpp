@@ -1,8 +1,14 @@
 #include <gtest/gtest.h>
 
-#include "design/reflection/Attributes.h"
-#include "design/reflection/Publish.h"
-#include "design/reflection/TypeInfo.h"
+#include "reflection/Attributes.h"
+#include "reflection/ClassAttributes.h"
+#include "reflection/ComponentEditorAttributes.h"
+#include "reflection/ListAttributes.h"
+#include "reflection/Publish.h"
+#include "reflection/RangeAttributes.h"
+#include "reflection/RowAttributes.h"
+#include "reflection/RttiTypes.h"
+#include "reflection/TypeInfo.h"
 
 namespace Tarvo {
 
@@ -67,7 +73,8 @@ String Describe(TCustomAttribute* AAttribute) {
   if (auto* flag = dynamic_cast<TBasicBooleanAttribute*>(AAttribute)) text += flag->Value() ? " yes" : " no";
   if (auto* entry = dynamic_cast<ComponentEditorEntryDesignAttribute*>(AAttribute))
     text += " " + entry->Text() + (entry->First() ? " first" : "");
-  if (auto* question = dynamic_cast<ComponentEditorEntryDesignConfirmationAttribute*>(AAttribute)) text += " " + question->Text();
+  if (auto* question = dynamic_cast<ComponentEditorEntryDesignConfirmationAttribute*>(AAttribute))
+    text += " " + question->Text();
   return text;
 }
 
@@ -90,7 +97,8 @@ TEST(AttributesTest, TheMembersOwnComeBeforeItsTypesAndDescendantsAnswerForTheir
       {"Main", HideNestedDefaultAttribute::ClassInfo(), true, ""},
       {"Spare", DisplayNestedShortAttribute::ClassInfo(), true, ""},
       {"Height", TBasicBooleanAttribute::ClassInfo(), true, ""},
-      {"Reset", ComponentEditorEntryDesignAttribute::ClassInfo(), true, "ComponentEditorEntryDesignAttribute Reset first"},
+      {"Reset", ComponentEditorEntryDesignAttribute::ClassInfo(), true,
+       "ComponentEditorEntryDesignAttribute Reset first"},
       {"Reset", ComponentEditorEntryDesignConfirmationAttribute::ClassInfo(), true,
        "ComponentEditorEntryDesignConfirmationAttribute Reset all?"},
       {"Calibrate", ComponentEditorEntryDesignAttribute::ClassInfo(), true,
@@ -106,8 +114,8 @@ TEST(AttributesTest, TheMembersOwnComeBeforeItsTypesAndDescendantsAnswerForTheir
   std::vector<String> access;
   for (TCustomAttribute* attribute : PanelMember("Main")->GetMemberAccessAttributes()->GetCustomAttributes())
     access.push_back(Describe(attribute));
-  EXPECT_EQ(access, (std::vector<String>{"NameAttribute Main gauge", "DisplayNestedShortAttribute yes", "NameAttribute Gauge",
-                                         "DisplayNestedAttribute no", "HideEmptyAttribute"}));
+  EXPECT_EQ(access, (std::vector<String>{"NameAttribute Main gauge", "DisplayNestedShortAttribute yes",
+                                         "NameAttribute Gauge", "DisplayNestedAttribute no", "HideEmptyAttribute"}));
 }
 
 // Range ends keep the kind they were written with; several attributes of one class come in
@@ -124,7 +132,8 @@ TEST(AttributesTest, ValuesKeepTheirKindAndOrder) {
   EXPECT_EQ(static_cast<DesignMinAttribute*>(found)->Value().GetTypeInfo(), TypeInfo<TAttrTestUnit>());
   EXPECT_EQ(static_cast<DesignMinAttribute*>(found)->Value().ToString(), "auCenti");
 
-  const TRef<IAttributeList> values = PanelMember("Source")->GetCustomAttributes(PropertyListDesignValueAttribute::ClassInfo());
+  const TRef<IAttributeList> values =
+      PanelMember("Source")->GetCustomAttributes(PropertyListDesignValueAttribute::ClassInfo());
   ASSERT_EQ(values->GetCount(), 2);
   const auto* first = static_cast<PropertyListDesignValueAttribute*>(values->GetItem(0));
   EXPECT_EQ(first->Value(), "(none)");

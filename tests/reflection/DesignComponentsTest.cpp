@@ -2,16 +2,20 @@
 
 #include <algorithm>
 
-#include "design/reflection/DesignComponents.h"
-#include "design/reflection/Publish.h"
-#include "design/reflection/TypeInfo.h"
+#include "reflection/ClassNames.h"
+#include "reflection/ComponentRegistration.h"
+#include "reflection/DynamicElements.h"
+#include "reflection/MemberCategories.h"
+#include "reflection/Publish.h"
+#include "reflection/RttiTypes.h"
+#include "reflection/TypeInfo.h"
 #include "rtl/Module.h"
 
 // Registrations stay for the life of the process, so each test registers classes of its own.
-#define DESIGN_TEST_CLASS(AClass, AParent)                                                         \
-  class AClass : public AParent {                                                                  \
-    TARVO_CLASS(AClass, AParent)                                                                   \
-  };                                                                                               \
+#define DESIGN_TEST_CLASS(AClass, AParent)                                                                             \
+  class AClass : public AParent {                                                                                      \
+    TARVO_CLASS(AClass, AParent)                                                                                       \
+  };                                                                                                                   \
   TARVO_IMPLEMENT_CLASS(AClass)
 
 namespace Tarvo {
@@ -88,8 +92,9 @@ TEST(DesignComponentsTest, RegistrationKeepsOrderAndFirstPageAndHooksSeeEachClas
   TEvents events;
   const int notify = RegisterComponentRegisteredNotify(Recorder(events, "notify", mine));
   const int procedure = AddComponentRegistrationProcedure(Recorder(events, "procedure", mine));
-  EXPECT_EQ(events, (TEvents{"notify TDesignTestShape", "notify TDesignTestLabel", "notify TDesignTestRoundShape",
-                             "procedure TDesignTestShape", "procedure TDesignTestLabel", "procedure TDesignTestRoundShape"}));
+  EXPECT_EQ(events,
+            (TEvents{"notify TDesignTestShape", "notify TDesignTestLabel", "notify TDesignTestRoundShape",
+                     "procedure TDesignTestShape", "procedure TDesignTestLabel", "procedure TDesignTestRoundShape"}));
   events.clear();
   RegisterComponents("Standard", {button, TDesignTestEdit::ClassInfo()});
   RegisterComponents("Other", {button});
@@ -120,8 +125,9 @@ TEST(DesignComponentsTest, RegistrationProcedureReadsMemberCategories) {
     for (const TRef<IMemberInfo>& member : TRttiObjectHelper::ClassTypeInfo(AClass)->GetMembers(mvsPublished))
       for (TCustomAttribute* attribute :
            member->GetMemberAccessAttributes()->GetCustomAttributes(TMemberCategoryAttribute::ClassInfo()))
-        found.push_back(member->GetName() + ":" +
-                        CreateMemberCategory(static_cast<TMemberCategoryAttribute*>(attribute)->CategoryClass())->GetName());
+        found.push_back(
+            member->GetName() + ":" +
+            CreateMemberCategory(static_cast<TMemberCategoryAttribute*>(attribute)->CategoryClass())->GetName());
   });
   RegisterComponents("Sliders", {TDesignTestSlider::ClassInfo()});
   RemoveComponentRegistrationProcedure(key);

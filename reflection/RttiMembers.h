@@ -1,14 +1,14 @@
 #pragma once
+#pragma GCC visibility push(default)
 // Member infos over the entries of registration tables, and the class types made of them.
 
-#include "design/reflection/MemberInfo.h"
+#include "reflection/MemberInfo.h"
 
 namespace Tarvo {
 
 // The member info of a table entry: a property, an indexed property, a field or a method.
 TRef<IMemberInfo> CreateMemberInfo(const TMemberEntry& AEntry);
 
-// Brings the type info of AClass, if one was made already, up to the class's current table.
-void ReloadClassMembers(TClass AClass);
-
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,4 +1,5 @@
 #pragma once
+#pragma GCC visibility push(default)
 // How a class publishes its members: a table in the class's own source file.
 //
 //   TARVO_PUBLISH(TShape) {
@@ -18,7 +19,7 @@
 #include <initializer_list>
 #include <utility>
 
-#include "design/reflection/MemberTable.h"
+#include "reflection/MemberTable.h"
 
 namespace Tarvo {
 
@@ -27,7 +28,8 @@ namespace Detail {
 // A TValue read as T, after a cast to the record that T represents here.
 template <class T> T ValueTo(const TValue& AValue, PTypeInfo AType) {
   if constexpr (std::is_same_v<T, TValue>) return AValue;
-  else if constexpr (TIsInterfaceRef<T>::value) return QueryAs<typename T::element_type>(AValue.Cast(AType).AsInterface());
+  else if constexpr (TIsInterfaceRef<T>::value)
+    return QueryAs<typename T::element_type>(AValue.Cast(AType).AsInterface());
   else {
     const TValue cast = AValue.Cast(AType);
     return *static_cast<const T*>(cast.GetReferenceToRawData());
@@ -149,7 +151,8 @@ protected:
     return TMemberEntryBuilder<C>(entry);
   }
 
-  template <class W> TMemberEntryBuilder<C> WriteOnlyProperty(const String& AName, W AWriter, PTypeInfo AType = nullptr) {
+  template <class W>
+  TMemberEntryBuilder<C> WriteOnlyProperty(const String& AName, W AWriter, PTypeInfo AType = nullptr) {
     using T = typename Detail::TWriter<W>::Value;
     TMemberEntry& entry = Add(TMemberEntryKind::Property, AName, Detail::RecordOf<T>(AType));
     SetWriter<T>(entry, AWriter);
@@ -187,7 +190,9 @@ protected:
   template <class T> TMemberEntryBuilder<C> Field(const String& AName, T C::*AField, PTypeInfo AType = nullptr) {
     TMemberEntry& entry = Add(TMemberEntryKind::Field, AName, Detail::RecordOf<T>(AType));
     const PTypeInfo type = entry.Type;
-    entry.Read = [AField, type](TObject* AObject) { return Detail::ValueFrom<T>(static_cast<const C*>(AObject)->*AField, type); };
+    entry.Read = [AField, type](TObject* AObject) {
+      return Detail::ValueFrom<T>(static_cast<const C*>(AObject)->*AField, type);
+    };
     entry.Write = [AField, type](TObject* AObject, const TValue& AValue) {
       static_cast<C*>(AObject)->*AField = Detail::ValueTo<T>(AValue, type);
     };
@@ -196,17 +201,20 @@ protected:
 
   // A method; with the parameter names its parameters are known to the designer.
   template <class R, class... AArgs>
-  TMemberEntryBuilder<C> Method(const String& AName, R (C::*AMethod)(AArgs...), std::initializer_list<const char*> ANames = {}) {
-    return AddMethod<R, AArgs...>(AName, [AMethod](C* AObject, AArgs... AValues) -> R {
-      return (AObject->*AMethod)(std::forward<AArgs>(AValues)...);
-    }, ANames);
+  TMemberEntryBuilder<C> Method(const String& AName, R (C::*AMethod)(AArgs...),
+                                std::initializer_list<const char*> ANames = {}) {
+    return AddMethod<R, AArgs...>(
+        AName,
+        [AMethod](C* AObject, AArgs... AValues) -> R { return (AObject->*AMethod)(std::forward<AArgs>(AValues)...); },
+        ANames);
   }
   template <class R, class... AArgs>
   TMemberEntryBuilder<C> Method(const String& AName, R (C::*AMethod)(AArgs...) const,
                                 std::initializer_list<const char*> ANames = {}) {
-    return AddMethod<R, AArgs...>(AName, [AMethod](C* AObject, AArgs... AValues) -> R {
-      return (AObject->*AMethod)(std::forward<AArgs>(AValues)...);
-    }, ANames);
+    return AddMethod<R, AArgs...>(
+        AName,
+        [AMethod](C* AObject, AArgs... AValues) -> R { return (AObject->*AMethod)(std::forward<AArgs>(AValues)...); },
+        ANames);
   }
 
   // Attributes of the class itself.
@@ -264,11 +272,13 @@ private:
   static TValue Call(const F& ACall, C* AObject, const std::vector<TValue>& AArguments, PTypeInfo AResultType,
                      std::index_sequence<I...>) {
     if constexpr (std::is_void_v<R>) {
-      ACall(AObject, Detail::ValueTo<std::remove_cvref_t<AArgs>>(AArguments[I], TypeInfo<std::remove_cvref_t<AArgs>>())...);
+      ACall(AObject,
+            Detail::ValueTo<std::remove_cvref_t<AArgs>>(AArguments[I], TypeInfo<std::remove_cvref_t<AArgs>>())...);
       return TValue();
     } else {
       return Detail::ValueFrom<std::remove_cvref_t<R>>(
-          ACall(AObject, Detail::ValueTo<std::remove_cvref_t<AArgs>>(AArguments[I], TypeInfo<std::remove_cvref_t<AArgs>>())...),
+          ACall(AObject,
+                Detail::ValueTo<std::remove_cvref_t<AArgs>>(AArguments[I], TypeInfo<std::remove_cvref_t<AArgs>>())...),
           AResultType);
     }
   }
@@ -288,12 +298,17 @@ template <class TTable> struct TMemberTablePublication {
 
 } // namespace Tarvo
 
-// Opens the registration table of a class; the body follows as a function body.
-#define TARVO_PUBLISH(AClass)                                                                      \
-  namespace {                                                                                      \
-  struct AClass##_MemberTable : ::Tarvo::TMemberTableBuilder<AClass> {                             \
-    void Publish();                                                                                \
-  };                                                                                               \
-  const ::Tarvo::TMemberTablePublication<AClass##_MemberTable> AClass##_Publication;               \
-  }                                                                                                \
-  void AClass##_MemberTable::Publish()
+// Opens the registration table of a class; the body follows as a function body. The class may be
+// named with its namespace (TARVO_PUBLISH(Acme::TThermostat)).
+#define TARVO_PUBLISH(...) TARVO_PUBLISH_AS(TARVO_CONCAT(TarvoMemberTable, __COUNTER__), __VA_ARGS__)
+#define TARVO_PUBLISH_AS(ATable, ...)                                                                                  \
+  namespace {                                                                                                          \
+  struct ATable : ::Tarvo::TMemberTableBuilder<__VA_ARGS__> {                                                          \
+    void Publish();                                                                                                    \
+    static const ::Tarvo::TMemberTablePublication<ATable> Publication;                                                 \
+  };                                                                                                                   \
+  const ::Tarvo::TMemberTablePublication<ATable> ATable::Publication;                                                  \
+  }                                                                                                                    \
+  void ATable::Publish()
+
+#pragma GCC visibility pop

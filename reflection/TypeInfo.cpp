@@ -1,4 +1,4 @@
-#include "design/reflection/TypeInfo.h"
+#include "reflection/TypeInfo.h"
 
 namespace Tarvo {
 

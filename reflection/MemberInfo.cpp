@@ -1,26 +1,12 @@
-#include "design/reflection/MemberInfo.h"
+#include "reflection/MemberInfo.h"
+
+#include "reflection/RttiTypes.h"
 
 #include <map>
 
 namespace Tarvo {
 
 namespace {
-
-// Attributes of type records, owned here; a module's leave with it.
-struct TTypeAttributeRegistry {
-  std::map<PTypeInfo, std::vector<std::unique_ptr<TCustomAttribute>>> Attributes;
-
-  TTypeAttributeRegistry() {
-    AddModuleUnloadProc([this](TModule* AModule) {
-      std::erase_if(Attributes, [AModule](const auto& AEntry) { return AEntry.first->Module() == AModule; });
-    });
-  }
-};
-
-TTypeAttributeRegistry& TypeAttributeRegistry() {
-  static TTypeAttributeRegistry registry;
-  return registry;
-}
 
 TRef<IAttributeList> ListOf(const std::vector<TCustomAttribute*>& AAttributes, TClass AClass) {
   const TRef<IAttributeList> result = New<TArrayList<TCustomAttribute*>>();
@@ -43,18 +29,6 @@ private:
 };
 
 } // namespace
-
-void RegisterTypeAttribute(PTypeInfo AType, TCustomAttribute* AAttribute) {
-  TypeAttributeRegistry().Attributes[AType].emplace_back(AAttribute);
-}
-
-std::vector<TCustomAttribute*> TypeAttributes(PTypeInfo AType) {
-  std::vector<TCustomAttribute*> result;
-  const auto& attributes = TypeAttributeRegistry().Attributes;
-  if (const auto found = attributes.find(AType); found != attributes.end())
-    for (const auto& attribute : found->second) result.push_back(attribute.get());
-  return result;
-}
 
 // ---- TObjectInfo ----
 
@@ -126,8 +100,7 @@ TRef<IAttributesInfo> TMemberInfo::CreateAccessAttributes() {
 void TValueMemberInfo::SetFromString(TObject* AInstance, const String& AText) {
   TValue value = GetValue(AInstance);
   if (value.IsEmpty()) value = TValue::Make(nullptr, TypeRecord());
-  if (!value.FromString(AText))
-    throw EConvertError("'" + AText + "' is not a valid value for " + GetName());
+  if (!value.FromString(AText)) throw EConvertError("'" + AText + "' is not a valid value for " + GetName());
   SetValue(AInstance, value);
 }
 

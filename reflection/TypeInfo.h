@@ -1,10 +1,11 @@
 #pragma once
+#pragma GCC visibility push(default)
 // The reflection contract: reflected types and members behind interfaces. The design framework
 // never knows a component class at compile time; it asks an object for its members by name,
 // reads and writes them as TValues and decides by attributes.
 
 #include "containers/List.h"
-#include "design/reflection/Attributes.h"
+#include "reflection/Attributes.h"
 #include "rtl/Module.h"
 #include "rtl/Value.h"
 
@@ -26,7 +27,7 @@ TARVO_ENUM(TMethodKind, mkProcedure, mkFunction)
 
 // The attributes of a reflected thing.
 class IAttributesInfo : public virtual IInterface {
-  TARVO_INTERFACE(IAttributesInfo, IInterface, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B51}")
+  TARVO_INTERFACE(IAttributesInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B51}", IInterface)
 public:
   virtual TRef<IAttributeList> GetCustomAttributes() = 0;
   virtual TRef<IAttributeList> GetCustomAttributes(TClass AClass) = 0;
@@ -37,7 +38,7 @@ public:
 
 // The common base of every reflected thing.
 class IObjectInfo : public virtual IAttributesInfo {
-  TARVO_INTERFACE(IObjectInfo, IAttributesInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B52}")
+  TARVO_INTERFACE(IObjectInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B52}", IAttributesInfo)
 public:
   // The run-time object behind: a type record or a member's table entry; nil for virtual things.
   virtual const void* GetRTTIHandle() = 0;
@@ -50,7 +51,7 @@ public:
 };
 
 class IMemberInfo : public virtual IObjectInfo {
-  TARVO_INTERFACE(IMemberInfo, IObjectInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B53}")
+  TARVO_INTERFACE(IMemberInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B53}", IObjectInfo)
 public:
   // The member's type; for a method the result type, nil for a procedure.
   virtual TRef<ITypeInfo> GetTypeInfo() = 0;
@@ -70,14 +71,14 @@ using TMembersInfo = TArrayList<TRef<IMemberInfo>>;
 
 // A member that is a property of any kind.
 class IPropertyInfo : public virtual IMemberInfo {
-  TARVO_INTERFACE(IPropertyInfo, IMemberInfo, "{2251EB18-27B0-4C55-A4AC-4489C9076287}")
+  TARVO_INTERFACE(IPropertyInfo, "{2251EB18-27B0-4C55-A4AC-4489C9076287}", IMemberInfo)
 public:
   virtual bool GetIsReadable() = 0;
   virtual bool GetIsWritable() = 0;
 };
 
 class IValueMemberInfo : public virtual IMemberInfo {
-  TARVO_INTERFACE(IValueMemberInfo, IMemberInfo, "{4AC1B21D-3101-48E8-B0A2-F161963DE59A}")
+  TARVO_INTERFACE(IValueMemberInfo, "{4AC1B21D-3101-48E8-B0A2-F161963DE59A}", IMemberInfo)
 public:
   virtual TValue GetDefault(TObject* AInstance) = 0;
   virtual bool GetHasDefault() = 0;
@@ -91,7 +92,7 @@ public:
 };
 
 class ISinglePropertyInfo : public virtual IValueMemberInfo {
-  TARVO_INTERFACE(ISinglePropertyInfo, IValueMemberInfo, "{45492121-74A5-4891-9DE5-C47533EC53F9}")
+  TARVO_INTERFACE(ISinglePropertyInfo, "{45492121-74A5-4891-9DE5-C47533EC53F9}", IValueMemberInfo)
 public:
   virtual bool GetIsReadable() = 0;
   virtual bool GetIsWritable() = 0;
@@ -103,7 +104,7 @@ public:
 };
 
 class IIndexedPropertyInfo : public virtual IMemberInfo {
-  TARVO_INTERFACE(IIndexedPropertyInfo, IMemberInfo, "{8AD133C5-1942-4DD5-890E-031DE512870D}")
+  TARVO_INTERFACE(IIndexedPropertyInfo, "{8AD133C5-1942-4DD5-890E-031DE512870D}", IMemberInfo)
 public:
   virtual TRef<IArrayList<TRef<ITypeInfo>>> GetIndexTypes() = 0;
   virtual TValue GetValue(TObject* AInstance, const std::vector<TValue>& AIndices) = 0;
@@ -111,11 +112,11 @@ public:
 };
 
 class IFieldInfo : public virtual IValueMemberInfo {
-  TARVO_INTERFACE(IFieldInfo, IValueMemberInfo, "{89F370C6-526A-48FC-B70E-874B6BE9D537}")
+  TARVO_INTERFACE(IFieldInfo, "{89F370C6-526A-48FC-B70E-874B6BE9D537}", IValueMemberInfo)
 };
 
 class IParameterInfo : public virtual IInterface {
-  TARVO_INTERFACE(IParameterInfo, IInterface, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B54}")
+  TARVO_INTERFACE(IParameterInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B54}", IInterface)
 public:
   virtual String GetName() = 0;
   virtual TRef<ITypeInfo> GetTypeInfo() = 0;
@@ -124,7 +125,7 @@ public:
 };
 
 class IMethodInfo : public virtual IMemberInfo {
-  TARVO_INTERFACE(IMethodInfo, IMemberInfo, "{09A28225-A23F-493B-A8BF-B9929C640CBF}")
+  TARVO_INTERFACE(IMethodInfo, "{09A28225-A23F-493B-A8BF-B9929C640CBF}", IMemberInfo)
 public:
   virtual TMethodKind GetMethodKind() = 0;
   virtual TRef<IArrayList<TRef<IParameterInfo>>> GetParameters() = 0;
@@ -136,7 +137,7 @@ public:
 
 // Limits a member reports of itself.
 class IValueLimitsInfo : public virtual IInterface {
-  TARVO_INTERFACE(IValueLimitsInfo, IInterface, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B55}")
+  TARVO_INTERFACE(IValueLimitsInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B55}", IInterface)
 public:
   virtual bool GetHasLimits() = 0;
   virtual TValue GetMinValue() = 0;
@@ -144,7 +145,7 @@ public:
 };
 
 class ITypeInfo : public virtual IObjectInfo {
-  TARVO_INTERFACE(ITypeInfo, IObjectInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B56}")
+  TARVO_INTERFACE(ITypeInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B56}", IObjectInfo)
 public:
   // The type record; the same for the same type.
   virtual PTypeInfo GetHandle() = 0;
@@ -157,7 +158,7 @@ public:
 
 // An enumeration type: its names and ordinals in declaration order.
 class IEnumerationTypeInfo : public virtual ITypeInfo {
-  TARVO_INTERFACE(IEnumerationTypeInfo, ITypeInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B57}")
+  TARVO_INTERFACE(IEnumerationTypeInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B57}", ITypeInfo)
 public:
   virtual TRef<IStringArrayList> GetNames() = 0;
   virtual Integer GetOrdinal(Integer AIndex) = 0;
@@ -165,21 +166,21 @@ public:
 
 // A set type and the type of its elements.
 class ISetTypeInfo : public virtual ITypeInfo {
-  TARVO_INTERFACE(ISetTypeInfo, ITypeInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B58}")
+  TARVO_INTERFACE(ISetTypeInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B58}", ITypeInfo)
 public:
   virtual TRef<ITypeInfo> GetElementType() = 0;
 };
 
 // An ordinal type with its declared limits, read as 32-bit signed numbers.
 class IOrdinalTypeInfo : public virtual ITypeInfo {
-  TARVO_INTERFACE(IOrdinalTypeInfo, ITypeInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B59}")
+  TARVO_INTERFACE(IOrdinalTypeInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B59}", ITypeInfo)
 public:
   virtual Integer GetMinValue() = 0;
   virtual Integer GetMaxValue() = 0;
 };
 
 class IClassTypeInfo : public virtual ITypeInfo {
-  TARVO_INTERFACE(IClassTypeInfo, ITypeInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B5A}")
+  TARVO_INTERFACE(IClassTypeInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B5A}", ITypeInfo)
 public:
   // The members of the given visibilities, ancestors' included (theirs first).
   virtual TRef<IMembersInfo> GetMembers(TMemberVisibilities AFilter) = 0;
@@ -194,35 +195,12 @@ public:
 
 // Supported by the type of a class whose instances add members at run time.
 class IDynamicTypeInfo : public virtual IInterface {
-  TARVO_INTERFACE(IDynamicTypeInfo, IInterface, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B5B}")
+  TARVO_INTERFACE(IDynamicTypeInfo, "{4B7E5C1A-8F2D-4A63-9E1B-6C0D2F7A3B5B}", IInterface)
 public:
   // Called with every instance the designer makes.
   virtual void InitInstance(TObject* AInstance) = 0;
 };
 
-// ---- Entry points ----
-
-struct TRttiObjectHelper {
-  // The class type of an object; with the flag, its dynamic members are included.
-  static TRef<IClassTypeInfo> TypeInfo(TObject* AObject, bool AIncludeDynamicTypeInfo);
-  static TRef<IClassTypeInfo> ClassTypeInfo(TClass AClass);
-};
-
-struct TTypeInfoHelper {
-  // The unique ITypeInfo of a type record; nil for nil.
-  static TRef<ITypeInfo> TypeInfo(PTypeInfo ATypeRecord);
-};
-
-struct TRttiInfo {
-  static TRef<ITypeInfo> GetTypeInfoType(PTypeInfo ATypeRecord) { return TTypeInfoHelper::TypeInfo(ATypeRecord); }
-};
-
-// Tells the listeners that the dynamic members of AInstance changed.
-void NotifyTypeInfoMemberValueChanges(TObject* AInstance);
-int AddTypeInfoMemberValueChangesHandler(TProc<TObject*> AHandler);
-void RemoveTypeInfoMemberValueChangesHandler(int AKey);
-
-// Attributes of a type, a class included; looked up by type record.
-void RegisterTypeAttribute(PTypeInfo AType, TCustomAttribute* AAttribute);
-
 } // namespace Tarvo
+
+#pragma GCC visibility pop

@@ -1,0 +1,13 @@
+#include "reflection/ComponentEditorAttributes.h"
+
+namespace Tarvo {
+
+TARVO_IMPLEMENT_CLASS(ComponentEditorAttribute)
+TARVO_IMPLEMENT_CLASS(ComponentEditorEntriesDesignAttribute)
+TARVO_IMPLEMENT_CLASS(ComponentEditorEntryDesignAttribute)
+TARVO_IMPLEMENT_CLASS(ComponentEditorEntryFullRefreshDesignAttribute)
+TARVO_IMPLEMENT_CLASS(ComponentEditorEntryDesignConfirmationAttribute)
+TARVO_IMPLEMENT_CLASS(SuppressAttribute)
+TARVO_IMPLEMENT_CLASS(TMBCommonFilterHostedPreviewAttribute)
+
+} // namespace Tarvo

@@ -1,0 +1,12 @@
+#include "reflection/ListAttributes.h"
+
+namespace Tarvo {
+
+TARVO_IMPLEMENT_CLASS(DesignAssociationAttribute)
+TARVO_IMPLEMENT_CLASS(PropertyListDesignAssociationAttribute)
+TARVO_IMPLEMENT_CLASS(PropertyListDesignValueAttribute)
+TARVO_IMPLEMENT_CLASS(PropertyListDialogDesignAttribute)
+TARVO_IMPLEMENT_CLASS(PropertySortListDesignAttribute)
+TARVO_IMPLEMENT_CLASS(PropertyValueAttribute)
+
+} // namespace Tarvo

@@ -1,0 +1,17 @@
+#include "reflection/RowAttributes.h"
+
+namespace Tarvo {
+
+TARVO_IMPLEMENT_CLASS(HiddenDesignAttribute)
+TARVO_IMPLEMENT_CLASS(MultiLineAttribute)
+TARVO_IMPLEMENT_CLASS(DynamicElementAttribute)
+TARVO_IMPLEMENT_CLASS(NameAttribute)
+TARVO_IMPLEMENT_CLASS(ReadOnlyAttribute)
+TARVO_IMPLEMENT_CLASS(RefreshPropertiesAttribute)
+TARVO_IMPLEMENT_CLASS(PropertyFixedListDesignAttribute)
+TARVO_IMPLEMENT_CLASS(TBasicBooleanAttribute)
+TARVO_IMPLEMENT_CLASS(DisplayNestedAttribute)
+TARVO_IMPLEMENT_CLASS(DisplayNestedShortAttribute)
+TARVO_IMPLEMENT_CLASS(HideNestedDefaultAttribute)
+
+} // namespace Tarvo
