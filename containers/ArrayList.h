@@ -210,4 +210,18 @@ private:
 
 } // namespace Tarvo
 
+// The class templates an array list of one element type is made of. An element type that many
+// files use has its instances compiled once: TARVO_ARRAY_LIST_INSTANCES(extern, T) beside the type
+// in a header, and TARVO_ARRAY_LIST_INSTANCES(, T) in one source file. Use inside namespace Tarvo.
+// A linked list of the same type adds TARVO_LINKED_LIST_INSTANCES.
+#define TARVO_ARRAY_LIST_INSTANCES(AExtern, ...)                                                                       \
+  TARVO_LIST_ELEMENT_INSTANCES(AExtern, __VA_ARGS__)                                                                   \
+  AExtern template class TArrayList<__VA_ARGS__>;                                                                      \
+  TARVO_LIST_KIND_INSTANCES(AExtern, IArrayList<__VA_ARGS__>, TArrayList<__VA_ARGS__>, __VA_ARGS__)                    \
+  AExtern template class TBasicListEnumerator<__VA_ARGS__>;                                                            \
+  AExtern template class TBasicReverseListEnumerator<__VA_ARGS__>;                                                     \
+  AExtern template class TReverseEnumeratorHost<__VA_ARGS__>;                                                          \
+  AExtern template class TImplements<TInterfacedObject, IReverseEnumeratorHost<__VA_ARGS__>>;                          \
+  AExtern template class TAutoReverseEnumeratorHost<__VA_ARGS__>;
+
 #pragma GCC visibility pop

@@ -290,4 +290,10 @@ private:
 
 } // namespace Tarvo
 
+// The class templates a linked list of one element type adds to those of its element (see
+// TARVO_ARRAY_LIST_INSTANCES).
+#define TARVO_LINKED_LIST_INSTANCES(AExtern, ...)                                                                      \
+  AExtern template class TLinkedList<__VA_ARGS__>;                                                                     \
+  TARVO_LIST_KIND_INSTANCES(AExtern, ILinkedList<__VA_ARGS__>, TLinkedList<__VA_ARGS__>, __VA_ARGS__)
+
 #pragma GCC visibility pop

@@ -13,8 +13,4 @@ void RaiseListRangeError(Integer AIndex, Integer ACount) {
                    ")");
 }
 
-template class TArrayList<TObject*>;
-template class TArrayList<String>;
-template class TLinkedList<TInterfacedChangeNotifyItem>;
-
 } // namespace Tarvo

@@ -14,9 +14,15 @@ using IStringArrayList = IArrayList<String>;
 // Sorts by the ordinal, case-sensitive order of the text.
 using TStringArrayList = TArrayList<String>;
 
-extern template class TArrayList<TObject*>;
-extern template class TArrayList<String>;
-extern template class TLinkedList<TInterfacedChangeNotifyItem>;
+// The lists of the runtime's own element types are compiled once, in containers/instances/.
+TARVO_ARRAY_LIST_INSTANCES(extern, TObject*)
+TARVO_ARRAY_LIST_INSTANCES(extern, String)
+TARVO_ARRAY_LIST_INSTANCES(extern, Boolean)
+TARVO_ARRAY_LIST_INSTANCES(extern, Integer)
+TARVO_ARRAY_LIST_INSTANCES(extern, TValue)
+TARVO_ARRAY_LIST_INSTANCES(extern, TClass)
+TARVO_LIST_ELEMENT_INSTANCES(extern, TInterfacedChangeNotifyItem)
+TARVO_LINKED_LIST_INSTANCES(extern, TInterfacedChangeNotifyItem)
 
 } // namespace Tarvo
 

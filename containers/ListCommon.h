@@ -89,4 +89,22 @@ protected:
 
 } // namespace Tarvo
 
+// What lists of one element type share, whatever their kind.
+#define TARVO_LIST_ELEMENT_INSTANCES(AExtern, ...)                                                                     \
+  AExtern template class TTypedInterfacedChangeNotifyObject<__VA_ARGS__>;                                              \
+  AExtern template class TQuery<__VA_ARGS__>;                                                                          \
+  AExtern template class TImplements<TInterfacedObject, IQuery<__VA_ARGS__>>;                                          \
+  AExtern template class TBasicEnumerator<__VA_ARGS__>;                                                                \
+  AExtern template class TImplements<TInterfacedObject, IEnumerator<__VA_ARGS__>>;                                     \
+  AExtern template class TGenricValueEnumerator<__VA_ARGS__>;                                                          \
+  AExtern template class TDelegatedComparer<__VA_ARGS__>;                                                              \
+  AExtern template class TImplements<TInterfacedObject, IComparer<__VA_ARGS__>>;
+
+// What a list of one kind (interface AIntf, class AList) over element type T is made of.
+#define TARVO_LIST_KIND_INSTANCES(AExtern, AIntf, AList, ...)                                                          \
+  AExtern template class TListCommon<__VA_ARGS__, AIntf, AList>;                                                       \
+  AExtern template class TImplements<TTypedInterfacedChangeNotifyObject<__VA_ARGS__>, IList, AIntf>;                   \
+  AExtern template class TContainerQuery<TRef<AIntf>, TRef<AIntf>, __VA_ARGS__>;                                       \
+  AExtern template class TImplements<TQuery<__VA_ARGS__>, IContainerQuery<TRef<AIntf>, TRef<AIntf>, __VA_ARGS__>>;
+
 #pragma GCC visibility pop

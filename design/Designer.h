@@ -196,4 +196,7 @@ private:
   TProc<> FOnResetObjectInspector;
 };
 
+// Compiled once, in design/instances/.
+TARVO_ARRAY_LIST_INSTANCES(extern, TRef<ISelectionChange>)
+
 } // namespace Tarvo

@@ -94,4 +94,8 @@ public:
   virtual TRef<IPropertyEditors> GetPropertyEditors() = 0;
 };
 
+// Compiled once, in design/instances/.
+TARVO_ARRAY_LIST_INSTANCES(extern, TIsDefaultByStrored)
+TARVO_ARRAY_LIST_INSTANCES(extern, TMemberEditorClass)
+
 } // namespace Tarvo

@@ -91,4 +91,8 @@ TARVO_API bool GetMemberEditorClasses(const TRef<IMemberInfo>& AMember, TObject*
 // Removes every entry whose item class, owner class, editor class or member type lies in AModule.
 void SweepMemberEditors(TModule* AModule);
 
+// Compiled once, in design/instances/.
+TARVO_ARRAY_LIST_INSTANCES(extern, TRef<IMemberEditorItem>)
+TARVO_LINKED_LIST_INSTANCES(extern, TRef<IMemberEditorItem>)
+
 } // namespace Tarvo

@@ -139,4 +139,8 @@ private:
   Boolean GetBooleanAttribute(const TRef<IMemberInfo>& AMember, TClass AAttribute, Boolean ADefault);
 };
 
+// Compiled once, in design/instances/.
+TARVO_ARRAY_LIST_INSTANCES(extern, TRef<IRefreshMemberNotify>)
+TARVO_ARRAY_LIST_INSTANCES(extern, TRef<IPropertyEditor>)
+
 } // namespace Tarvo

@@ -56,6 +56,9 @@ TRef<IContainerQuery<QWidget*, TRef<IWidgetArrayList>, QWidget*>> QueryControls(
       [](TRef<IWidgetArrayList> AList, QWidget* AWidget) { AList->Add(AWidget); }, AParent);
 }
 
+// Compiled once, in platform/instances/.
+TARVO_ARRAY_LIST_INSTANCES(extern, QWidget*)
+
 } // namespace Tarvo
 
 #pragma GCC visibility pop

@@ -17,8 +17,9 @@ class TCustomAttribute : public TObject {
 };
 using TCustomAttributeClass = TClassOf<TCustomAttribute>;
 
-// The attributes of one thing, in declaration order.
+// The attributes of one thing, in declaration order; compiled once, in reflection/instances/.
 using IAttributeList = IArrayList<TCustomAttribute*>;
+TARVO_ARRAY_LIST_INSTANCES(extern, TCustomAttribute*)
 
 // The first attribute of AClass (or a descendant) in AAttributes; nil when none.
 TCustomAttribute* FindAttribute(const std::vector<TCustomAttribute*>& AAttributes, TClass AClass);

@@ -201,6 +201,11 @@ public:
   virtual void InitInstance(TObject* AInstance) = 0;
 };
 
+// The member, type and parameter lists are compiled once, in reflection/instances/.
+TARVO_ARRAY_LIST_INSTANCES(extern, TRef<IMemberInfo>)
+TARVO_ARRAY_LIST_INSTANCES(extern, TRef<ITypeInfo>)
+TARVO_ARRAY_LIST_INSTANCES(extern, TRef<IParameterInfo>)
+
 } // namespace Tarvo
 
 #pragma GCC visibility pop
