@@ -1,7 +1,9 @@
 #pragma once
 // What a host finds in the package by name: the table of its units and the two calls that start
 // and stop them. A unit reached twice starts on the first initialisation and stops on the last
-// finalisation, so hosts and tests may balance the calls as they like.
+// finalisation, so hosts and tests may balance the calls as they like. A host finds the entry
+// points by name in the package's module (TModule::FindEntryPoint) rather than linking to them,
+// so that functions of its own with the same names cannot stand in for them.
 
 #include "rtl/Export.h"
 

@@ -53,6 +53,16 @@ void TModule::AddResource(const std::string& AName, std::span<const std::byte> A
   FResources[ResourceKey(AName)] = AData;
 }
 
+void* TModule::FindEntryPoint(const std::string& AName) const {
+  // A module met by address was not opened here: look it up without opening it a second time.
+  void* handle = FHandle ? FHandle : dlopen(FFileName.c_str(), RTLD_NOW | RTLD_NOLOAD);
+  if (!handle) return nullptr;
+  void* address = dlsym(handle, AName.c_str());
+  if (handle != FHandle) dlclose(handle);
+  Dl_info info{};
+  return address && dladdr(address, &info) && info.dli_fbase == FBase ? address : nullptr;
+}
+
 TModule* FindModule(const void* AAddress) {
   Dl_info info{};
   if (!AAddress || !dladdr(AAddress, &info) || !info.dli_fbase) return nullptr;

@@ -31,6 +31,10 @@ public:
   std::span<const std::byte> FindResource(const std::string& AName) const;
   void AddResource(const std::string& AName, std::span<const std::byte> AData);
 
+  // The address of a function or variable that this module exports by name; nil when it exports
+  // none of that name. Only this module's own exports count, not those of the libraries it uses.
+  void* FindEntryPoint(const std::string& AName) const;
+
   // The classes this module registered, in registration order; they leave with the module.
   const std::vector<const TMetaClass*>& Classes() const { return FClasses; }
   void AddClass(const TMetaClass* AClass) { FClasses.push_back(AClass); }

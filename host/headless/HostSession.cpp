@@ -3,8 +3,8 @@
 #include <nlohmann/json.hpp>
 
 #include "host/headless/HostDesigner.h"
+#include "host/headless/PackageScope.h"
 #include "host/headless/RowWriters.h"
-#include "package/PackageEntry.h"
 #include "reflection/ComponentRegistration.h"
 #include "rtl/Module.h"
 #include "runtime/DesignFile.h"
@@ -12,13 +12,6 @@
 namespace Tarvo {
 
 namespace {
-
-struct TPackageScope {
-  TPackageScope() { Initialize(); }
-  ~TPackageScope() { Finalize(); }
-  TPackageScope(const TPackageScope&) = delete;
-  TPackageScope& operator=(const TPackageScope&) = delete;
-};
 
 // Unloads the modules it loaded, the last first.
 class TModulesScope {

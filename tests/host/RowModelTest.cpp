@@ -2,10 +2,12 @@
 // they show over one and over several objects, and how writes and sub-rows go through editors.
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "design/Registry.h"
 #include "host/headless/HostDesigner.h"
+#include "host/headless/PackageScope.h"
 #include "host/headless/RowModel.h"
-#include "package/PackageEntry.h"
 #include "reflection/RttiTypes.h"
 #include "rtl/Module.h"
 #include "runtime/DesignFile.h"
@@ -34,7 +36,7 @@ namespace {
 class RowModelTest : public testing::Test {
 protected:
   void SetUp() override {
-    Initialize();
+    FPackage.emplace();
     FModule = LoadModule(TARVO_SAMPLES_MODULE_PATH);
     FRoot.reset(TComponentHelper::CreateComponent(TComponent::ClassInfo(), nullptr, true, false));
     ReadDesignFile(TARVO_SAMPLE_DESIGN, FRoot.get());
@@ -46,7 +48,7 @@ protected:
     FDesigner = nullptr;
     FRoot.reset();
     UnloadModule(FModule);
-    Finalize();
+    FPackage.reset();
   }
 
   TRowModel& Select(std::initializer_list<const char*> ANames) {
@@ -63,6 +65,7 @@ protected:
   }
   bool HasRow(const String& AName) { return std::ranges::count(Names(), AName) == 1; }
 
+  std::optional<TPackageScope> FPackage;
   TModule* FModule = nullptr;
   TOwnedObject<TComponent> FRoot;
   TRef<IDesigner> FDesigner;

@@ -1,51 +1,17 @@
-#include "runtime/DesignFile.h"
-
 #include <algorithm>
 #include <fstream>
 #include <sstream>
 #include <string_view>
-#include <utility>
-
-#include <nlohmann/json.hpp>
 
 #include "reflection/RttiTypes.h"
-#include "reflection/TypeInfo.h"
-#include "rtl/SysUtils.h"
 #include "runtime/Controls.h"
+#include "runtime/DesignFileForm.h"
 
 namespace Tarvo {
 
+using namespace DesignFile;
+
 namespace {
-
-// Keys keep their order: properties are set in the order the file gives them.
-using TJson = nlohmann::ordered_json;
-
-[[noreturn]] void Fail(const String& AMessage) { throw EDesignFileError(AMessage); }
-
-// A design reads the same on every machine: numbers and dates go through the invariant settings
-// for as long as a file is read or written, whatever the host set.
-class TInvariantFormatScope {
-public:
-  TInvariantFormatScope() : FSaved(std::exchange(FormatSettings, TFormatSettings::Invariant())) {}
-  ~TInvariantFormatScope() { FormatSettings = FSaved; }
-  TInvariantFormatScope(const TInvariantFormatScope&) = delete;
-  TInvariantFormatScope& operator=(const TInvariantFormatScope&) = delete;
-
-private:
-  TFormatSettings FSaved;
-};
-
-// A member of these types names a component of the design rather than having a text of its own.
-bool RefersToComponent(PTypeInfo AType) {
-  return AType->Kind == tkInterface ||
-         (AType->Kind == tkClass && AType->ClassType->InheritsFrom(TComponent::ClassInfo()));
-}
-
-// Values that the members' own conversion reads back from their text.
-bool HasTextForm(PTypeInfo AType) {
-  return AType->IsOrdinal() || AType->IsString() || AType->Kind == tkFloat || AType->Kind == tkSet ||
-         AType->Kind == tkVariant;
-}
 
 void CheckKeys(const TJson& AValue, const String& APath, std::initializer_list<std::string_view> AKeys) {
   if (!AValue.is_object()) Fail(APath + " must be an object");
@@ -184,82 +150,11 @@ private:
   std::vector<TPending> FPending;
 };
 
-class TDesignWriter {
-public:
-  explicit TDesignWriter(TComponent* ARoot) : FRoot(ARoot) {}
-
-  TJson Write() const {
-    TJson list = TJson::array();
-    for (Integer i = 0; i < FRoot->ComponentCount(); ++i)
-      if (!WrittenUnderParent(FRoot->Components(i))) list.push_back(Component(FRoot->Components(i)));
-    TJson design = TJson::object();
-    design["components"] = std::move(list);
-    return design;
-  }
-
-private:
-  bool InDesign(const TComponent* AComponent) const { return AComponent && AComponent->Owner() == FRoot; }
-
-  // A control of the design parented to another of the design is written among its children.
-  bool WrittenUnderParent(const TComponent* AComponent) const {
-    const auto* control = dynamic_cast<const TControl*>(AComponent);
-    return control && InDesign(control->GetParent());
-  }
-
-  TJson Component(TComponent* AComponent) const {
-    TJson item = TJson::object();
-    item["class"] = AComponent->ClassName();
-    item["name"] = AComponent->GetName();
-    TJson properties = TJson::object();
-    Properties(AComponent, String(), properties);
-    if (!properties.empty()) item["properties"] = std::move(properties);
-    TJson children = TJson::array();
-    if (const auto* window = dynamic_cast<const TWinControl*>(AComponent))
-      for (Integer i = 0; i < window->ControlCount(); ++i)
-        if (InDesign(window->Controls(i))) children.push_back(Component(window->Controls(i)));
-    if (!children.empty()) item["children"] = std::move(children);
-    return item;
-  }
-
-  void Properties(TObject* AObject, const String& APrefix, TJson& AResult) const {
-    for (const TRef<IMemberInfo>& member : TRttiObjectHelper::TypeInfo(AObject, true)->GetMembers(mvsPublished)) {
-      TRef<ISinglePropertyInfo> property;
-      if (!Supports(member, property) || !property->GetIsReadable() || !property->GetIsStored(AObject)) continue;
-      const String key = APrefix + member->GetName();
-      if (key == "Name") continue; // the component's name is its item's own
-      const PTypeInfo type = property->GetTypeInfo()->GetHandle();
-      const TValue value = property->GetValue(AObject);
-      if (RefersToComponent(type)) {
-        if (const String name = ReferenceName(value); !name.empty() && property->GetIsWritable()) AResult[key] = name;
-      } else if (type->Kind == tkClass) {
-        if (TObject* inner = value.AsObject()) Properties(inner, key + ".", AResult);
-      } else if (HasTextForm(type) && property->GetIsWritable() && !property->GetIsDefault(AObject, false)) {
-        AResult[key] = value.ToString();
-      }
-    }
-  }
-
-  // The name of a referenced component of the design; empty for nil and for one from outside.
-  String ReferenceName(const TValue& AValue) const {
-    TObject* object = AValue.IsInterface() ? ObjectOf(AValue.AsInterface()) : AValue.AsObject();
-    const auto* component = dynamic_cast<const TComponent*>(object);
-    return InDesign(component) ? component->GetName() : String();
-  }
-
-  TComponent* FRoot;
-};
-
 } // namespace
 
 std::vector<TComponent*> ReadDesign(const String& AText, TComponent* ARoot) {
   TARVO_ASSERT(ARoot != nullptr);
-  TJson design;
-  try {
-    design = TJson::parse(AText);
-  } catch (const TJson::parse_error& e) {
-    const std::string_view detail = e.what();
-    Fail("The design is no valid JSON: " + String(detail.substr(detail.find("] ") + 2)));
-  }
+  const TJson design = ParseDesignText(AText);
   const TInvariantFormatScope invariant;
   return TDesignReader(ARoot).Read(design);
 }
@@ -273,16 +168,6 @@ std::vector<TComponent*> ReadDesignFile(const String& APath, TComponent* ARoot) 
     return ReadDesign(text.str(), ARoot);
   } catch (const EDesignFileError& e) {
     Fail(APath + ": " + e.Message());
-  }
-}
-
-String WriteDesign(TComponent* ARoot) {
-  TARVO_ASSERT(ARoot != nullptr);
-  const TInvariantFormatScope invariant;
-  try {
-    return TDesignWriter(ARoot).Write().dump(2) + "\n";
-  } catch (const TJson::type_error&) {
-    Fail("The design of '" + ARoot->GetName() + "' holds a text that is no valid UTF-8");
   }
 }
 

@@ -1,0 +1,52 @@
+#pragma once
+// What the design file reader and writer share: the JSON form, the error, the invariant format
+// settings and which members are written as texts or as component names.
+
+#include <utility>
+
+#include <nlohmann/json.hpp>
+
+#include "reflection/TypeInfo.h"
+#include "rtl/SysUtils.h"
+#include "runtime/Component.h"
+#include "runtime/DesignFile.h"
+
+namespace Tarvo::DesignFile {
+
+// Keys keep their order: properties are set in the order the file gives them.
+using TJson = nlohmann::ordered_json;
+
+[[noreturn]] inline void Fail(const String& AMessage) { throw EDesignFileError(AMessage); }
+
+// A design reads the same on every machine: numbers and dates go through the invariant settings
+// for as long as a file is read or written, whatever the host set.
+class TInvariantFormatScope {
+public:
+  TInvariantFormatScope() : FSaved(std::exchange(FormatSettings, TFormatSettings::Invariant())) {}
+  ~TInvariantFormatScope() { FormatSettings = FSaved; }
+  TInvariantFormatScope(const TInvariantFormatScope&) = delete;
+  TInvariantFormatScope& operator=(const TInvariantFormatScope&) = delete;
+
+private:
+  TFormatSettings FSaved;
+};
+
+// A member of these types names a component of the design rather than having a text of its own.
+inline bool RefersToComponent(PTypeInfo AType) {
+  return AType->Kind == tkInterface ||
+         (AType->Kind == tkClass && AType->ClassType->InheritsFrom(TComponent::ClassInfo()));
+}
+
+// Values that the members' own conversion reads back from their text.
+inline bool HasTextForm(PTypeInfo AType) {
+  return AType->IsOrdinal() || AType->IsString() || AType->Kind == tkFloat || AType->Kind == tkSet ||
+         AType->Kind == tkVariant;
+}
+
+// The document of a design text; EDesignFileError says where the text is no valid JSON.
+TJson ParseDesignText(const String& AText);
+// The indented text of a design document, one line feed at its end; EDesignFileError names the
+// root when a text in the document is no valid UTF-8.
+String DesignText(const TJson& ADesign, const String& ARootName);
+
+} // namespace Tarvo::DesignFile
