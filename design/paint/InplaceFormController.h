@@ -47,6 +47,8 @@ private:
   TRef<IMemberUIUpdate> FUIUpdate;
 };
 
+TARVO_ARRAY_LIST_INSTANCES(extern, TRef<IInplaceForm>)
+
 class TARVO_API IPropertyEditorInplace : public virtual IInterface {
   TARVO_INTERFACE(IPropertyEditorInplace, "{3C652DC0-F9DA-4B44-900B-A778CE0FF2AB}", IInterface)
 public:

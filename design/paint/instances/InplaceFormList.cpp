@@ -1,0 +1,6 @@
+// The list instances of one element type, compiled here once; the header declares them extern.
+#include "design/paint/InplaceFormController.h"
+
+namespace Tarvo {
+TARVO_ARRAY_LIST_INSTANCES(, TRef<IInplaceForm>)
+} // namespace Tarvo
