@@ -16,7 +16,7 @@ TRef<TAges> Ages(std::initializer_list<TAgePair> APairs) {
   return result;
 }
 
-TContents Contents(const TRef<TAges>& ADictionary) {
+TContents Entries(const TRef<TAges>& ADictionary) {
   TContents result;
   for (const auto& pair : *ADictionary) EXPECT_TRUE(result.emplace(pair.Key, pair.Value).second) << pair.Key;
   return result;
@@ -25,7 +25,7 @@ TContents Contents(const TRef<TAges>& ADictionary) {
 TEST(DictionaryTest, StoringAndReading) {
   const auto ages = Ages({{"ann", 30}});
   EXPECT_EQ(ages->Add("bob", 40)->Add("ann", 31), ages); // Add replaces
-  EXPECT_EQ(Contents(ages), (TContents{{"ann", 31}, {"bob", 40}}));
+  EXPECT_EQ(Entries(ages), (TContents{{"ann", 31}, {"bob", 40}}));
   ages->SetItem("bob", 41);
   EXPECT_EQ(ages->GetItem("bob"), 41);
   EXPECT_THROW(ages->GetItem("cid"), EListError);
@@ -60,7 +60,7 @@ TEST(DictionaryTest, Removing) {
   ages->Add("cid", 50)->RemoveOne([](const String&, const Integer& A) { return A == 30; });
   EXPECT_EQ(ages->GetCount(), 3); // a single match goes
 
-  TContents removed, expected = Contents(ages);
+  TContents removed, expected = Entries(ages);
   expected.erase("cid");
   ages->RemoveAll([](const String&, const Integer& A) { return A == 30; },
                   [&](const String& AKey, const Integer& A) {
@@ -68,7 +68,7 @@ TEST(DictionaryTest, Removing) {
                     removed.emplace(AKey, A);
                   });
   EXPECT_EQ(removed, expected);
-  EXPECT_EQ(Contents(ages), (TContents{{"cid", 50}}));
+  EXPECT_EQ(Entries(ages), (TContents{{"cid", 50}}));
   EXPECT_EQ(ages->ExtractPair("cid"), (TAgePair{"cid", 50}));
   EXPECT_FALSE(ages->ContainsKey("cid"));
   EXPECT_EQ(ages->ExtractPair("bob"), (TAgePair{"bob", 0}));
@@ -78,7 +78,7 @@ TEST(DictionaryTest, Removing) {
 TEST(DictionaryTest, WalkEndsWithAnErrorWhenTheKeysChange) {
   const auto ages = Ages({{"ann", 30}, {"bob", 40}});
   for (const auto& pair : *ages) ages->SetItem(pair.Key, pair.Value + 1); // values may change
-  EXPECT_EQ(Contents(ages), (TContents{{"ann", 31}, {"bob", 41}}));
+  EXPECT_EQ(Entries(ages), (TContents{{"ann", 31}, {"bob", 41}}));
   const auto walk = ages->GetEnumerator();
   ASSERT_TRUE(walk->MoveNext());
   ages->Add("cid", 50);
@@ -92,7 +92,7 @@ TEST(DictionaryTest, QueriesAndTheirKeysAndValues) {
   const auto query = ages->Query();
   const auto older = query->Filter([](const TAgePair& A) { return A.Value > 35; });
   EXPECT_NE(older, ages);
-  EXPECT_EQ(Contents(older), (TContents{{"bob", 40}, {"cid", 50}}));
+  EXPECT_EQ(Entries(older), (TContents{{"bob", 40}, {"cid", 50}}));
   EXPECT_TRUE(query->Contains(TAgePair{"bob", 40}));
   EXPECT_FALSE(query->Contains(TAgePair{"bob", 41}));
   EXPECT_EQ(query->ForEach([](const TAgePair&) {}), ages);

@@ -3,17 +3,17 @@
 namespace Tarvo::Testing {
 namespace {
 
-using IntList = TRef<TLinkedList<int>>;
+using LinkedInts = TRef<TLinkedList<int>>;
 using V = std::vector<int>;
 
-IntList Make(const V& AItems) {
-  IntList list = New<TLinkedList<int>>();
+LinkedInts MakeLinked(const V& AItems) {
+  LinkedInts list = New<TLinkedList<int>>();
   list->Append(AItems);
   return list;
 }
 
 // Walks the list, running AStep with each element it yields; answers the elements seen.
-V WalkWith(const IntList& AList, const std::function<void(int)>& AStep) {
+V WalkWith(const LinkedInts& AList, const std::function<void(int)>& AStep) {
   V seen;
   for (const TRef<IEnumerator<int>> walk = AList->GetEnumerator(); walk->MoveNext();) {
     seen.push_back(walk->GenericGetCurrent());
@@ -28,14 +28,14 @@ TEST(LinkedListWalkTest, ChangesDuringAWalk) {
   const struct {
     const char* Name;
     V Items;
-    std::function<void(const IntList&, int)> Step;
+    std::function<void(const LinkedInts&, int)> Step;
     V Seen, After;
     Integer Count;
   } rows[] = {
       // Removing 3 while on 1 passes over 2, whose successor is flagged, while 3 is still yielded.
       {"successor",
        {1, 2, 3, 4},
-       [](const IntList& L, int A) {
+       [](const LinkedInts& L, int A) {
          if (A == 1) L->RemoveOne(3);
        },
        {1, 3, 4},
@@ -43,17 +43,17 @@ TEST(LinkedListWalkTest, ChangesDuringAWalk) {
        5},
       {"last",
        {1, 2, 3},
-       [](const IntList& L, int A) {
+       [](const LinkedInts& L, int A) {
          if (A == 1) L->RemoveOne(3);
        },
        {1},
        {1, 2, 9},
        4},
-      {"current", {1, 2, 3}, [](const IntList& L, int A) { L->RemoveOne(A); }, {1, 2, 3}, {9}, 4},
-      {"pop", {1}, [](const IntList& L, int) { L->PopFirst(); }, {1}, {9}, 2},
+      {"current", {1, 2, 3}, [](const LinkedInts& L, int A) { L->RemoveOne(A); }, {1, 2, 3}, {9}, 4},
+      {"pop", {1}, [](const LinkedInts& L, int) { L->PopFirst(); }, {1}, {9}, 2},
       {"added",
        {1},
-       [](const IntList& L, int A) {
+       [](const LinkedInts& L, int A) {
          if (A < 3) L->Add(A + 1);
        },
        {1, 2, 3},
@@ -62,7 +62,7 @@ TEST(LinkedListWalkTest, ChangesDuringAWalk) {
   };
   for (const auto& r : rows) {
     SCOPED_TRACE(r.Name);
-    const IntList list = Make(r.Items);
+    const LinkedInts list = MakeLinked(r.Items);
     EXPECT_EQ(WalkWith(list, [&](int A) { r.Step(list, A); }), r.Seen);
     list->Add(9);
     EXPECT_EQ(Contents(list), r.After);
@@ -71,7 +71,7 @@ TEST(LinkedListWalkTest, ChangesDuringAWalk) {
 }
 
 TEST(LinkedListWalkTest, PopFirstDuringAWalkFindsTheSameNode) {
-  IntList list = Make({1, 2});
+  LinkedInts list = MakeLinked({1, 2});
   TCounter counter;
   list->AddChangeHandler(counter.Handler());
   {
@@ -87,7 +87,7 @@ TEST(LinkedListWalkTest, PopFirstDuringAWalkFindsTheSameNode) {
 }
 
 TEST(LinkedListWalkTest, NodesAreFreedOnlyWhenTheLastEnumeratorGoes) {
-  IntList list = Make({1, 2, 3});
+  LinkedInts list = MakeLinked({1, 2, 3});
   TRef<IEnumerator<int>> outer = list->GetEnumerator();
   {
     const TRef<IEnumerator<int>> inner = list->GetEnumerator();
@@ -99,14 +99,14 @@ TEST(LinkedListWalkTest, NodesAreFreedOnlyWhenTheLastEnumeratorGoes) {
 }
 
 TEST(LinkedListWalkTest, ClearingAListThatIsBeingWalkedIsRefusedWhileItHoldsNodes) {
-  IntList list = Make({1, 2});
+  LinkedInts list = MakeLinked({1, 2});
   {
     const TRef<IEnumerator<int>> walk = list->GetEnumerator();
     EXPECT_THROW(list->Clear(), EAssertionFailed);
     EXPECT_EQ(list->GetCount(), 2);
   }
   EXPECT_EQ(Contents(list), (V{1, 2}));
-  list = Make({1});
+  list = MakeLinked({1});
   WalkWith(list, [&](int) { list->PopFirst(); });
   EXPECT_EQ(list->GetCount(), 1);
   const TRef<IEnumerator<int>> walk = list->GetEnumerator(); // over no nodes: Clear is allowed
@@ -115,7 +115,7 @@ TEST(LinkedListWalkTest, ClearingAListThatIsBeingWalkedIsRefusedWhileItHoldsNode
 }
 
 TEST(LinkedListTest, RemovalMendsTheLinksAndNotifies) {
-  IntList list = Make({1, 2, 3});
+  LinkedInts list = MakeLinked({1, 2, 3});
   TCounter counter;
   list->AddChangeHandler(counter.Handler());
   EXPECT_EQ(list->RemoveOne(3), 2);
@@ -138,14 +138,14 @@ TEST(LinkedListTest, RemovalMendsTheLinksAndNotifies) {
   EXPECT_EQ(Contents(list), (V{7}));
 
   // Per element of the other list, the last equal element goes.
-  list = Make({1, 2, 1, 3});
-  list->RemoveAll(Make({1, 3}));
+  list = MakeLinked({1, 2, 1, 3});
+  list->RemoveAll(MakeLinked({1, 3}));
   EXPECT_EQ(Contents(list), (V{1, 2}));
   EXPECT_EQ(list->Last(), 2);
 }
 
 TEST(LinkedListTest, EndsOfAFullAndAnEmptyList) {
-  IntList list = Make({1, 2});
+  LinkedInts list = MakeLinked({1, 2});
   int item = -1;
   EXPECT_TRUE(list->Last(item));
   EXPECT_EQ(item, 2);
@@ -165,7 +165,7 @@ TEST(LinkedListTest, EndsOfAFullAndAnEmptyList) {
 }
 
 TEST(LinkedListTest, CopiesAndQueriesAreLinkedLists) {
-  IntList list = Make({1, 2});
+  LinkedInts list = MakeLinked({1, 2});
   list->Assign(TArrayList<int>::CreateArray({5, 6, 7}));
   EXPECT_EQ(Contents(list), (V{5, 6, 7}));
   EXPECT_EQ(Contents(TLinkedList<int>::CreateCopy(list)), (V{5, 6, 7}));

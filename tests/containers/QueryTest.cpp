@@ -43,7 +43,7 @@ TRef<TIntQuery> QueryOf(const TIntsRef& ASource) {
 
 TRef<IEnumerable<Integer>> Ints(std::vector<Integer> AItems) { return New<TInts>(std::move(AItems)); }
 
-const TConstFunc<Integer, Boolean> IsEven = [](const Integer& AItem) { return AItem % 2 == 0; };
+const TConstFunc<Integer, Boolean> IsEvenItem = [](const Integer& AItem) { return AItem % 2 == 0; };
 
 TEST(QueryTest, EqualsWalksBothToTheEnd) {
   const auto query = QueryOf(New<TInts>(std::vector<Integer>{1, 2, 3}));
@@ -67,7 +67,7 @@ TEST(QueryTest, Searches) {
   const auto query = QueryOf(New<TInts>(std::vector<Integer>{3, 4, 5, 4}));
   EXPECT_TRUE(query->Contains(5));
   EXPECT_FALSE(query->Contains(7));
-  EXPECT_TRUE(query->Contains(IsEven));
+  EXPECT_TRUE(query->Contains(IsEvenItem));
   EXPECT_EQ(query->Count(4), 2);
   EXPECT_EQ(query->Count([](const Integer& A) { return A > 3; }), 3);
   EXPECT_TRUE(query->ContainsAny(Ints({9, 8, 5})));
@@ -75,7 +75,7 @@ TEST(QueryTest, Searches) {
   EXPECT_FALSE(query->ContainsAny(Ints({})));
   Integer item = 99, index = 99;
   IQuery<Integer>& asked = *query; // the Boolean Find; the container query's own is fluent
-  EXPECT_TRUE(asked.Find(IsEven, item));
+  EXPECT_TRUE(asked.Find(IsEvenItem, item));
   EXPECT_EQ(item, 4);
   EXPECT_FALSE(asked.Find([](const Integer& A) { return A > 9; }, item));
   EXPECT_EQ(item, 0);
@@ -83,7 +83,7 @@ TEST(QueryTest, Searches) {
   EXPECT_EQ(index, 1);
   EXPECT_FALSE(query->IndexOf(7, index));
   EXPECT_EQ(index, -1);
-  EXPECT_TRUE(query->IndexOf(IsEven, index));
+  EXPECT_TRUE(query->IndexOf(IsEvenItem, index));
   EXPECT_EQ(index, 1);
   EXPECT_EQ(query->First(), 3);
   EXPECT_FALSE(query->IsEmpty());
@@ -104,7 +104,7 @@ TEST(QueryTest, EveryRunWalksTheSourceAsItStandsWhileFilterIsEager) {
   EXPECT_EQ(calls, 4);
   source->Items = {2, 4, 6};
   EXPECT_EQ(evens->Items, (std::vector<Integer>{2, 4}));
-  EXPECT_EQ(query->Count(IsEven), 3);
+  EXPECT_EQ(query->Count(IsEvenItem), 3);
   EXPECT_EQ(source->Walks, 2);
   source = nullptr; // the query holds its source
   EXPECT_EQ(query->First(), 2);
@@ -144,7 +144,7 @@ TEST(QueryTest, FluentOperationsHandBackTheSource) {
   seen.clear();
   const TConstProc<Integer> collect = [&](const Integer& A) { seen.push_back(A); };
   EXPECT_EQ(query->ForFirst(collect), source);
-  EXPECT_EQ(query->ForFirstMatch(IsEven, collect), source);
+  EXPECT_EQ(query->ForFirstMatch(IsEvenItem, collect), source);
   EXPECT_EQ(query->ForFirstMatch([](const Integer& A) { return A > 9; }, collect), source);
   EXPECT_EQ(QueryOf(New<TInts>())->ForFirst(collect)->Items.size(), 0u);
   EXPECT_EQ(seen, (std::vector<Integer>{3, 4}));
@@ -152,7 +152,7 @@ TEST(QueryTest, FluentOperationsHandBackTheSource) {
   Integer item = 99;
   EXPECT_EQ(query->Find([](const Integer& A) { return A > 9; }, item), source);
   EXPECT_EQ(item, 0);
-  EXPECT_EQ(query->Find(IsEven, collect), source);
+  EXPECT_EQ(query->Find(IsEvenItem, collect), source);
   EXPECT_EQ(seen.back(), 4);
 
   TIntsRef handed;
@@ -182,10 +182,10 @@ TEST(QueryTest, NilArgumentsAreAssertionFailures) {
   ExpectAssertions({[&] { query->Equals(nullptr); }, [&] { query->ContainsAny(nullptr); },
                     [&] { query->Contains(noPredicate); }, [&] { query->Count(noPredicate); },
                     [&] { query->Find(noPredicate, item); }, [&] { asked.Find(noPredicate, item); },
-                    [&] { asked.Find(IsEven, noProc); }, [&] { query->IndexOf(noPredicate, item); },
+                    [&] { asked.Find(IsEvenItem, noProc); }, [&] { query->IndexOf(noPredicate, item); },
                     [&] { query->Filter(noPredicate); }, [&] { query->ForEach(noProc); },
                     [&] { query->ForEach(TConstProc<Integer, Integer>()); }, [&] { query->ForFirst(noProc); },
-                    [&] { query->ForFirstMatch(noPredicate, proc); }, [&] { query->ForFirstMatch(IsEven, noProc); },
+                    [&] { query->ForFirstMatch(noPredicate, proc); }, [&] { query->ForFirstMatch(IsEvenItem, noProc); },
                     [&] { query->Do(nullptr); }, [] { New<TQuery<Integer>>(nullptr); },
                     [&] {
                       New<TIntContainerQuery>(
