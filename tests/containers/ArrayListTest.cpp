@@ -90,35 +90,41 @@ TEST(ArrayListTest, NilArgumentsAreAssertionFailures) {
 
 // What each operation does to {3, 2, 1} and how often it notifies.
 TEST(ArrayListTest, OperationsAndTheirNotifications) {
-  const std::tuple<std::function<void(const IntList&)>, V, int> rows[] = {
-      {[](const IntList& L) { L->Add(9); }, {3, 2, 1, 9}, 1},
-      {[](const IntList& L) { L->AddFront(9); }, {9, 3, 2, 1}, 1},
-      {[](const IntList& L) {
+  struct TRow {
+    const char* Name;
+    std::function<void(const IntList&)> Operation;
+    V After;
+    int Notifications;
+  } rows[] = {
+      {"Add", [](const IntList& L) { L->Add(9); }, {3, 2, 1, 9}, 1},
+      {"AddFront", [](const IntList& L) { L->AddFront(9); }, {9, 3, 2, 1}, 1},
+      {"Append",
+       [](const IntList& L) {
          L->Append(V{8, 9});
        },
        {3, 2, 1, 8, 9},
        2},
-      {[](const IntList& L) { L->RemoveOne(2); }, {3, 1}, 1},
-      {[](const IntList& L) { L->RemoveOne(7); }, {3, 2, 1}, 1}, // absent: notifies all the same
-      {[](const IntList& L) { L->ClearValues(); }, {}, 1},
-      {[](const IntList& L) { L->Insert(0, 9); }, {9, 3, 2, 1}, 0},
-      {[](const IntList& L) { L->Delete(0); }, {2, 1}, 0},
-      {[](const IntList& L) { L->Delete(0, 2); }, {1}, 0},
-      {[](const IntList& L) { L->Clear(); }, {}, 0},
-      {[](const IntList& L) { L->SetItem(0, 9); }, {9, 2, 1}, 0},
-      {[](const IntList& L) { L->Swap(0, 2); }, {1, 2, 3}, 0},
-      {[](const IntList& L) { L->Sort(); }, {1, 2, 3}, 0},
-      {[](const IntList& L) { L->IfRemoveOne([](const int& A) { return A == 1; }); }, {3, 2}, 0},
-      {[](const IntList& L) { L->Append(V{2})->RemoveAll(2); }, {3, 1}, 1},
+      {"RemoveOne", [](const IntList& L) { L->RemoveOne(2); }, {3, 1}, 1},
+      {"RemoveOne of an absent item notifies all the same", [](const IntList& L) { L->RemoveOne(7); }, {3, 2, 1}, 1},
+      {"ClearValues", [](const IntList& L) { L->ClearValues(); }, {}, 1},
+      {"Insert", [](const IntList& L) { L->Insert(0, 9); }, {9, 3, 2, 1}, 0},
+      {"Delete", [](const IntList& L) { L->Delete(0); }, {2, 1}, 0},
+      {"Delete a range", [](const IntList& L) { L->Delete(0, 2); }, {1}, 0},
+      {"Clear", [](const IntList& L) { L->Clear(); }, {}, 0},
+      {"SetItem", [](const IntList& L) { L->SetItem(0, 9); }, {9, 2, 1}, 0},
+      {"Swap", [](const IntList& L) { L->Swap(0, 2); }, {1, 2, 3}, 0},
+      {"Sort", [](const IntList& L) { L->Sort(); }, {1, 2, 3}, 0},
+      {"IfRemoveOne", [](const IntList& L) { L->IfRemoveOne([](const int& A) { return A == 1; }); }, {3, 2}, 0},
+      {"RemoveAll after an Append", [](const IntList& L) { L->Append(V{2})->RemoveAll(2); }, {3, 1}, 1},
   };
-  for (std::size_t i = 0; i < std::size(rows); ++i) {
+  ForEachRow(rows, [](const TRow& ARow) {
     IntList list = Make({3, 2, 1});
     TCounter counter;
     list->AddChangeHandler(counter.Handler());
-    std::get<0>(rows[i])(list);
-    EXPECT_EQ(Contents(list), std::get<1>(rows[i])) << "row " << i;
-    EXPECT_EQ(counter.Count, std::get<2>(rows[i])) << "row " << i;
-  }
+    ARow.Operation(list);
+    EXPECT_EQ(Contents(list), ARow.After);
+    EXPECT_EQ(counter.Count, ARow.Notifications);
+  });
 }
 
 TEST(ArrayListTest, Walks) {

@@ -59,16 +59,18 @@ using TReverseRecursive = TComponentReverseEnumeratorRecursive<TNode*>;
 
 TEST_F(ComponentEnumeratorTest, WalkOrders) {
   TNode leaf{"Leaf", {}};
-  const std::pair<TNames, TNames> walks[] = {
-      {Names(Make<TForward>(&Root)), {"A", "B", "C"}},
-      {Names(Make<TReverse>(&Root)), {"C", "B", "A"}},
-      {Names(Make<TForwardRecursive>(&Root)), {"A", "A1", "A1a", "A2", "B", "C", "C1"}},
-      {Names(Make<TReverseRecursive>(&Root)), {"C1", "C", "B", "A2", "A1a", "A1", "A"}},
-      {Names(Make<TForward>(&leaf)), {}},
-      {Names(Make<TReverse>(&leaf)), {}},
-      {Names(Make<TForwardRecursive>(&leaf)), {}},
-      {Names(Make<TReverseRecursive>(&leaf)), {}}};
-  for (std::size_t i = 0; i < std::size(walks); ++i) EXPECT_EQ(walks[i].first, walks[i].second) << "walk " << i;
+  const struct {
+    const char* Name;
+    TNames Walked, Expected;
+  } walks[] = {{"forward", Names(Make<TForward>(&Root)), {"A", "B", "C"}},
+               {"reverse", Names(Make<TReverse>(&Root)), {"C", "B", "A"}},
+               {"forward recursive", Names(Make<TForwardRecursive>(&Root)), {"A", "A1", "A1a", "A2", "B", "C", "C1"}},
+               {"reverse recursive", Names(Make<TReverseRecursive>(&Root)), {"C1", "C", "B", "A2", "A1a", "A1", "A"}},
+               {"forward over a leaf", Names(Make<TForward>(&leaf)), {}},
+               {"reverse over a leaf", Names(Make<TReverse>(&leaf)), {}},
+               {"forward recursive over a leaf", Names(Make<TForwardRecursive>(&leaf)), {}},
+               {"reverse recursive over a leaf", Names(Make<TReverseRecursive>(&leaf)), {}}};
+  ForEachRow(walks, [](const auto& AWalk) { EXPECT_EQ(AWalk.Walked, AWalk.Expected); });
 
   const auto leaves = New<TFilterEnumerator<TNode*>>(Make<TForwardRecursive>(&Root),
                                                      [](TNode* const& A) { return A->Children.empty(); });
@@ -116,12 +118,17 @@ const TConstFunc<TNode*, Boolean> NotB = [](TNode* const& A) { return A->Name[0]
 const TConstFunc<TNode*, Boolean> Every = [](TNode* const&) { return true; };
 
 TEST_F(ComponentEnumeratorTest, QueryPicksTheWalkByItsFlagsAndRunsOverTheTreeAsItStands) {
-  const std::tuple<bool, bool, TNames> cases[] = {{false, false, {"A", "C"}},
-                                                  {false, true, {"C", "A"}},
-                                                  {true, false, {"A", "A1", "A1a", "A2", "C", "C1"}},
-                                                  {true, true, {"C1", "C", "A2", "A1a", "A1", "A"}}};
-  for (const auto& [recursive, reverse, expected] : cases)
-    EXPECT_EQ(*QueryChildren(&Root, recursive, reverse, NotB)->Skip(0), expected) << recursive << reverse;
+  const struct {
+    const char* Name;
+    bool Recursive, Reverse;
+    TNames Expected;
+  } cases[] = {{"forward", false, false, {"A", "C"}},
+               {"reverse", false, true, {"C", "A"}},
+               {"forward recursive", true, false, {"A", "A1", "A1a", "A2", "C", "C1"}},
+               {"reverse recursive", true, true, {"C1", "C", "A2", "A1a", "A1", "A"}}};
+  ForEachRow(cases, [this](const auto& ACase) {
+    EXPECT_EQ(*QueryChildren(&Root, ACase.Recursive, ACase.Reverse, NotB)->Skip(0), ACase.Expected);
+  });
 
   const auto query = QueryChildren(&Root, true, false, NotB);
   EXPECT_EQ(query->Count(Every), 6);

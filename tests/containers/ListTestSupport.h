@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "containers/List.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo::Testing {
 

@@ -51,14 +51,19 @@ TEST(QueryTest, EqualsWalksBothToTheEnd) {
     return A % 10 == B % 10;
   };
   struct TCase {
+    const char* Name;
     std::vector<Integer> Other;
     bool ByComparer, ByLastDigit;
-  } cases[] = {{{1, 2, 3}, true, true},      {{1, 2, 4}, false, false},  {{1, 2}, false, false},
-               {{1, 2, 3, 4}, false, false}, {{11, 2, 23}, false, true}, {{}, false, false}};
-  for (const auto& c : cases) {
-    EXPECT_EQ(query->Equals(Ints(c.Other)), c.ByComparer) << c.Other.size();
-    EXPECT_EQ(query->Equals(Ints(c.Other), sameLastDigit), c.ByLastDigit) << c.Other.size();
-  }
+  } cases[] = {{"same items", {1, 2, 3}, true, true},
+               {"last item differs", {1, 2, 4}, false, false},
+               {"shorter", {1, 2}, false, false},
+               {"longer", {1, 2, 3, 4}, false, false},
+               {"same last digits", {11, 2, 23}, false, true},
+               {"empty", {}, false, false}};
+  ForEachRow(cases, [&](const TCase& ACase) {
+    EXPECT_EQ(query->Equals(Ints(ACase.Other)), ACase.ByComparer);
+    EXPECT_EQ(query->Equals(Ints(ACase.Other), sameLastDigit), ACase.ByLastDigit);
+  });
   EXPECT_TRUE(QueryOf(New<TInts>())->Equals(Ints({})));
 }
 
@@ -113,17 +118,22 @@ TEST(QueryTest, EveryRunWalksTheSourceAsItStandsWhileFilterIsEager) {
 TEST(QueryTest, SkipAndTakeBoundaries) {
   const std::vector<Integer> items{1, 2, 3, 4, 5};
   struct TCase {
+    const char* Name;
     Integer Count;
     std::vector<Integer> Skipped, Taken;
-  } cases[] = {{0, items, {}}, {-2, items, {}}, {2, {3, 4, 5}, {1, 2}}, {5, {}, items}, {9, {}, items}};
-  for (const auto& c : cases) {
+  } cases[] = {{"none", 0, items, {}},
+               {"a negative count", -2, items, {}},
+               {"some", 2, {3, 4, 5}, {1, 2}},
+               {"all", 5, {}, items},
+               {"more than there are", 9, {}, items}};
+  ForEachRow(cases, [&](const TCase& ACase) {
     const auto source = New<TInts>(items);
-    const auto skipped = QueryOf(source)->Skip(c.Count);
-    const auto taken = QueryOf(source)->Take(c.Count);
-    EXPECT_EQ(skipped->Items, c.Skipped) << c.Count;
-    EXPECT_EQ(taken->Items, c.Taken) << c.Count;
+    const auto skipped = QueryOf(source)->Skip(ACase.Count);
+    const auto taken = QueryOf(source)->Take(ACase.Count);
+    EXPECT_EQ(skipped->Items, ACase.Skipped);
+    EXPECT_EQ(taken->Items, ACase.Taken);
     EXPECT_NE(skipped.get(), source.get()) << "a copy, never the source";
-  }
+  });
   // Take stops one step past the last taken.
   const auto source = New<TInts>(items);
   QueryOf(source)->Take(2);

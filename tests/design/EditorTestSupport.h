@@ -6,6 +6,7 @@
 
 #include "design/Designer.h"
 #include "design/MemberEditor.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo::Testing {
 

@@ -189,20 +189,24 @@ protected:
 
 TEST_F(SinglePropertyEditorTest, DisplayValueShowsOneTextWhenAllAgreeElseAllJoined) {
   struct Row {
+    const char* Name;
     std::vector<Integer> Levels;
     const char* Text;
   };
-  const Row rows[] = {{{1, 2, 1}, "1;2;1"}, {{4, 4, 4}, "4"}, {{7}, "7"}, {{}, ""}};
-  for (const Row& r : rows) {
+  const Row rows[] = {{"texts differ", {1, 2, 1}, "1;2;1"},
+                      {"all agree", {4, 4, 4}, "4"},
+                      {"one object", {7}, "7"},
+                      {"no object", {}, ""}};
+  Testing::ForEachRow(rows, [this](const Row& ARow) {
     std::vector<TObject*> selection;
     TSpeGadget* gadgets[] = {&FFirst, &FSecond, &FThird};
-    for (std::size_t i = 0; i < r.Levels.size(); ++i) {
-      gadgets[i]->FLevel = r.Levels[i];
+    for (std::size_t i = 0; i < ARow.Levels.size(); ++i) {
+      gadgets[i]->FLevel = ARow.Levels[i];
       selection.push_back(gadgets[i]);
     }
     Select(selection);
-    EXPECT_EQ(Editor("Level")->GetDisplayValue(nullptr), r.Text) << r.Text;
-  }
+    EXPECT_EQ(Editor("Level")->GetDisplayValue(nullptr), ARow.Text);
+  });
 }
 
 TEST_F(SinglePropertyEditorTest, EmptySelectionShowsNothingIsAllDefaultAndWritesNoNotice) {
@@ -415,6 +419,7 @@ TEST_F(SinglePropertyEditorTest, SetElementAnswersForItsProperty) {
 
 TEST_F(SinglePropertyEditorTest, DisplayNestedByAttributesAndVisibility) {
   struct Row {
+    const char* Name;
     const char* Member;
     bool NestedEditor;
     Integer Value;
@@ -422,23 +427,24 @@ TEST_F(SinglePropertyEditorTest, DisplayNestedByAttributesAndVisibility) {
     const char* Text;
   };
   const Row rows[] = {
-      {"Level", false, 5, true, "Level=5"},
-      {"Secret", false, 5, false, "Secret=5"}, // not published; the text is filled all the same
-      {"Shown", false, 5, true, "Shown=5"},
-      {"Secret", true, 5, true, "Secret=5"},  // the editor class says so
-      {"Hushed", true, 5, false, "Hushed=5"}, // the member's attribute comes first
-      {"Brief", false, 5, true, "5"},
-      {"Quiet", false, 5, true, "Quiet=5"},
-      {"Quiet", false, 0, false, ""}, // hidden at its default despite DisplayNestedAttribute
+      {"a published member", "Level", false, 5, true, "Level=5"},
+      {"an unpublished member still fills the text", "Secret", false, 5, false, "Secret=5"},
+      {"a member shown by its attribute", "Shown", false, 5, true, "Shown=5"},
+      {"a member shown by the editor class", "Secret", true, 5, true, "Secret=5"},
+      {"the member's attribute before the editor class", "Hushed", true, 5, false, "Hushed=5"},
+      {"a value without its name", "Brief", false, 5, true, "5"},
+      {"a nested member off its default", "Quiet", false, 5, true, "Quiet=5"},
+      {"a nested member at its default stays hidden", "Quiet", false, 0, false, ""},
   };
   Select({&FFirst});
-  for (const Row& r : rows) {
-    FFirst.FLevel = FFirst.FQuiet = r.Value;
-    const TRef<TSinglePropertyEditor> editor = r.NestedEditor ? Editor<TSpeNestedEditor>(r.Member) : Editor(r.Member);
+  Testing::ForEachRow(rows, [this](const Row& ARow) {
+    FFirst.FLevel = FFirst.FQuiet = ARow.Value;
+    const TRef<TSinglePropertyEditor> editor =
+        ARow.NestedEditor ? Editor<TSpeNestedEditor>(ARow.Member) : Editor(ARow.Member);
     String text = "left over";
-    EXPECT_EQ(editor->GetDisplayNested(text, nullptr), r.Shown) << r.Member;
-    EXPECT_EQ(text, r.Text) << r.Member;
-  }
+    EXPECT_EQ(editor->GetDisplayNested(text, nullptr), ARow.Shown);
+    EXPECT_EQ(text, ARow.Text);
+  });
 }
 
 // ---- Construction and listeners ----

@@ -23,16 +23,23 @@ std::string Cell(const QImage& AImage, int AX, int AY) {
 // Each cell of a 16 by 16 fill shows the pattern: high bit leftmost, rows top down, repeated
 // every 8 pixels from the origin.
 TEST(HatchBrushTest, CellsShowThePatternRepeated) {
-  const std::pair<TIGXHatchStyle, const char*> looks[] = {
-      {hsHorizontal, "########/......../......../......../......../......../......../........"},
-      {hsForwardDiagonal, "#......./.#....../..#...../...#..../....#.../.....#../......#./.......#"},
-      {hsLargeCheckerBoard, "####..../####..../####..../####..../....####/....####/....####/....####"},
-      {hsSolidDiamond, "...#..../..###.../.#####../#######./.#####../..###.../...#..../........"},
+  const struct {
+    const char* Name;
+    TIGXHatchStyle Style;
+    const char* Look;
+  } looks[] = {
+      {"horizontal", hsHorizontal, "########/......../......../......../......../......../......../........"},
+      {"forward diagonal", hsForwardDiagonal,
+       "#......./.#....../..#...../...#..../....#.../.....#../......#./.......#"},
+      {"large checker board", hsLargeCheckerBoard,
+       "####..../####..../####..../####..../....####/....####/....####/....####"},
+      {"solid diamond", hsSolidDiamond, "...#..../..###.../.#####../#######./.#####../..###.../...#..../........"},
   };
-  for (const auto& [style, look] : looks) {
-    const QImage image = FillWith(New<TIGXHatchBrush>(style, claBlack, claWhite), 16, 16);
-    for (auto [x, y] : TPoints{{0, 0}, {8, 0}, {0, 8}, {8, 8}}) EXPECT_EQ(Cell(image, x, y), look) << "style " << style;
-  }
+  ForEachRow(looks, [](const auto& ALook) {
+    const QImage image = FillWith(New<TIGXHatchBrush>(ALook.Style, claBlack, claWhite), 16, 16);
+    for (auto [x, y] : TPoints{{0, 0}, {8, 0}, {0, 8}, {8, 8}})
+      EXPECT_EQ(Cell(image, x, y), ALook.Look) << x << "," << y;
+  });
 }
 
 // Every pattern shows both colours; the percent styles cover about their share of the 64 pixels.
@@ -63,15 +70,18 @@ TEST(HatchBrushTest, PatternStaysOnTheDeviceGrid) {
 }
 
 TEST(TextureBrushTest, TilesAndFlipsByWrapMode) {
-  const std::pair<TIGXWrapMode, std::vector<std::string>> cases[] = {
-      {wmTile, {"rgrgrgrg", "bybybyby", "rgrgrgrg", "bybybyby"}},
-      {wmTileFlipX, {"rggrrggr", "byybbyyb", "rggrrggr", "byybbyyb"}},
-      {wmTileFlipY, {"rgrgrgrg", "bybybyby", "bybybyby", "rgrgrgrg"}},
-      {wmTileFlipXY, {"rggrrggr", "byybbyyb", "byybbyyb", "rggrrggr"}}};
-  for (const auto& [mode, rows] : cases) {
-    const QImage image = FillWith(New<TIGXTextureBrush>(Quad(), mode), 8, 8);
-    for (int y = 0; y < 8; ++y) EXPECT_EQ(Colours(image, y, 0, 8), rows[y % 4]) << "mode " << mode << ", row " << y;
-  }
+  const struct {
+    const char* Name;
+    TIGXWrapMode Mode;
+    std::vector<std::string> Rows;
+  } cases[] = {{"tile", wmTile, {"rgrgrgrg", "bybybyby", "rgrgrgrg", "bybybyby"}},
+               {"flip x", wmTileFlipX, {"rggrrggr", "byybbyyb", "rggrrggr", "byybbyyb"}},
+               {"flip y", wmTileFlipY, {"rgrgrgrg", "bybybyby", "bybybyby", "rgrgrgrg"}},
+               {"flip both", wmTileFlipXY, {"rggrrggr", "byybbyyb", "byybbyyb", "rggrrggr"}}};
+  ForEachRow(cases, [](const auto& ACase) {
+    const QImage image = FillWith(New<TIGXTextureBrush>(Quad(), ACase.Mode), 8, 8);
+    for (int y = 0; y < 8; ++y) EXPECT_EQ(Colours(image, y, 0, 8), ACase.Rows[y % 4]) << "pixel row " << y;
+  });
 }
 
 // The brush's translation comes before the graphics' own; clamped, the image is painted once,
@@ -105,16 +115,19 @@ constexpr TAlphaColor Purple = 0xFF800080u; // halfway from red to blue
 // to corner.
 TEST(LinearGradientTest, ModesRunAcrossTheRectangle) {
   const TPoints corners = {{0, 0}, {63, 0}, {0, 15}, {63, 15}};
-  const std::pair<TIGXLinearGradientMode, std::vector<TAlphaColor>> cases[] = {
-      {lgmHorizontal, {Red, Blue, Red, Blue}},
-      {lgmVertical, {Red, Red, Blue, Blue}},
-      {lgmForwardDiagonal, {Red, Purple, Purple, Blue}},
-      {lgmBackwardDiagonal, {Purple, Red, Blue, Purple}}};
-  for (const auto& [mode, colours] : cases) {
-    const QImage image = FillWith(New<TIGXLinearGradientBrush>(TIGXRect(0, 0, 64, 16), Red, Blue, mode), 64, 16);
+  const struct {
+    const char* Name;
+    TIGXLinearGradientMode Mode;
+    std::vector<TAlphaColor> Colours;
+  } cases[] = {{"horizontal", lgmHorizontal, {Red, Blue, Red, Blue}},
+               {"vertical", lgmVertical, {Red, Red, Blue, Blue}},
+               {"forward diagonal", lgmForwardDiagonal, {Red, Purple, Purple, Blue}},
+               {"backward diagonal", lgmBackwardDiagonal, {Purple, Red, Blue, Purple}}};
+  ForEachRow(cases, [&](const auto& ACase) {
+    const QImage image = FillWith(New<TIGXLinearGradientBrush>(TIGXRect(0, 0, 64, 16), Red, Blue, ACase.Mode), 64, 16);
     for (std::size_t i = 0; i < corners.size(); ++i)
-      EXPECT_TRUE(PixelNear(image, corners[i].first, corners[i].second, colours[i], 10)) << "mode " << mode;
-  }
+      EXPECT_TRUE(PixelNear(image, corners[i].first, corners[i].second, ACase.Colours[i], 10)) << "corner " << i;
+  });
 }
 
 TEST(LinearGradientTest, BetweenTwoPointsAndBeyondThem) {

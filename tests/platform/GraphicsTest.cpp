@@ -55,17 +55,21 @@ TEST(GraphicsTest, OutlinesLandOnTheExpectedPixels) {
 
 // Dash and gap lengths in pen widths, from the line's start.
 TEST(GraphicsTest, DashStylesRepeatTheirPatterns) {
-  const std::pair<TIGXDashStyle, const char*> cases[] = {{dsSolid, "################"},
-                                                         {dsDash, "###.###.###.###."},
-                                                         {dsDot, "#.#.#.#.#.#.#.#."},
-                                                         {dsDashDot, "###.#.###.#.###."},
-                                                         {dsDashDotDot, "###.#.#.###.#.#."}};
-  for (const auto& [style, pixels] : cases) {
+  const struct {
+    const char* Name;
+    TIGXDashStyle Style;
+    const char* Pixels;
+  } cases[] = {{"solid", dsSolid, "################"},
+               {"dash", dsDash, "###.###.###.###."},
+               {"dot", dsDot, "#.#.#.#.#.#.#.#."},
+               {"dash dot", dsDashDot, "###.#.###.#.###."},
+               {"dash dot dot", dsDashDotDot, "###.#.#.###.#.#."}};
+  ForEachRow(cases, [](const auto& ACase) {
     const auto pen = New<TIGXPen>(claBlack, 1.0f);
-    pen->SetDashStyle(style);
+    pen->SetDashStyle(ACase.Style);
     EXPECT_EQ(Row(Paint(20, 3, [&](IGXGraphics& AGraphics) { AGraphics.DrawLine(pen, 0, 1, 20, 1); }), 1, 0, 16),
-              pixels);
-  }
+              ACase.Pixels);
+  });
 
   const auto pen = New<TIGXPen>(claBlack, 2.0f);
   pen->SetDashPattern({2, 1, 1});
@@ -95,20 +99,25 @@ TEST(GraphicsTest, LineJoinsShapeTheOuterCorner) {
 }
 
 TEST(GraphicsTest, OnlyHighQualityAndAntiAliasSmooth) {
-  for (auto [mode, smooth] : {std::pair{smDefault, false},
-                              {smHighSpeed, false},
-                              {smNone, false},
-                              {smHighQuality, true},
-                              {smAntiAlias, true}}) {
-    const QImage image = Paint(20, 20, [mode](IGXGraphics& AGraphics) {
-      AGraphics.SetSmoothingMode(mode);
+  const struct {
+    const char* Name;
+    TIGXSmoothingMode Mode;
+    bool Smooth;
+  } cases[] = {{"default", smDefault, false},
+               {"high speed", smHighSpeed, false},
+               {"none", smNone, false},
+               {"high quality", smHighQuality, true},
+               {"anti-alias", smAntiAlias, true}};
+  ForEachRow(cases, [](const auto& ACase) {
+    const QImage image = Paint(20, 20, [&ACase](IGXGraphics& AGraphics) {
+      AGraphics.SetSmoothingMode(ACase.Mode);
       AGraphics.DrawLine(New<TIGXPen>(claBlack, 1.0f), 0, 0, 20, 7);
     });
     bool grey = false;
     for (int y = 0; y < 20; ++y)
       for (int x = 0; x < 20; ++x) grey |= Pixel(image, x, y) != claBlack && Pixel(image, x, y) != claWhite;
-    EXPECT_EQ(grey, smooth) << "mode " << mode;
-  }
+    EXPECT_EQ(grey, ACase.Smooth);
+  });
   QImage image = Canvas(4, 4);
   const auto graphics = New<TIGXGraphics>(image);
   EXPECT_THROW(graphics->SetSmoothingMode(TIGXSmoothingMode(5)), EArgumentOutOfRangeException);

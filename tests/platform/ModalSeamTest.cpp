@@ -6,6 +6,7 @@
 
 #include "platform/MessageDlg.h"
 #include "platform/ModalSeam.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 namespace {
@@ -77,14 +78,22 @@ TEST(MessageDlgTest, ShowsTheMessageWithTheButtonsAsked) {
 
 // A button not on the box answers as dismissed.
 TEST(MessageDlgTest, AnswersEachButtonByItsCode) {
-  const std::pair<QMessageBox::StandardButton, TMsgDlgBtn> cases[] = {
-      {QMessageBox::Yes, mbYes},         {QMessageBox::Ok, mbOK},           {QMessageBox::Retry, mbRetry},
-      {QMessageBox::SaveAll, mbAll},     {QMessageBox::NoToAll, mbNoToAll}, {QMessageBox::Close, mbClose},
-      {QMessageBox::NoButton, mbCancel}, {QMessageBox::Help, mbCancel}};
-  for (const auto& [pressed, expected] : cases) {
-    TModalHandlerScope scope([pressed](QDialog&) { return int(pressed); });
-    EXPECT_EQ(MessageDlg("?", mtWarning, {mbYes, mbOK, mbRetry, mbAll, mbNoToAll, mbClose}, mbOK), expected) << pressed;
-  }
+  const struct {
+    const char* Name;
+    QMessageBox::StandardButton Pressed;
+    TMsgDlgBtn Expected;
+  } cases[] = {{"Yes", QMessageBox::Yes, mbYes},
+               {"OK", QMessageBox::Ok, mbOK},
+               {"Retry", QMessageBox::Retry, mbRetry},
+               {"All", QMessageBox::SaveAll, mbAll},
+               {"No to all", QMessageBox::NoToAll, mbNoToAll},
+               {"Close", QMessageBox::Close, mbClose},
+               {"no button", QMessageBox::NoButton, mbCancel},
+               {"a button not on the box", QMessageBox::Help, mbCancel}};
+  Testing::ForEachRow(cases, [](const auto& ACase) {
+    TModalHandlerScope scope([&ACase](QDialog&) { return int(ACase.Pressed); });
+    EXPECT_EQ(MessageDlg("?", mtWarning, {mbYes, mbOK, mbRetry, mbAll, mbNoToAll, mbClose}, mbOK), ACase.Expected);
+  });
 }
 
 } // namespace

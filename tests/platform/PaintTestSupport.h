@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "platform/GXGraphics.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo::Testing {
 

@@ -5,6 +5,7 @@
 
 #include "rtl/DateUtils.h"
 #include "tests/rtl/ExpectError.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo::Testing {
 namespace {
@@ -45,17 +46,33 @@ TEST(DateUtilsEncodeTest, RoundTrips) {
 }
 
 TEST(DateUtilsEncodeTest, InvalidPartsRaise) {
-  const std::array<Word, 3> dates[] = {{2023, 2, 29}, {1900, 2, 29}, {0, 1, 1},     {10000, 1, 1},
-                                       {2024, 13, 1}, {2024, 0, 1},  {2024, 4, 31}, {2024, 1, 0}};
+  const struct {
+    const char* Name;
+    Word Year, Month, Day;
+  } dates[] = {{"29 February of a common year", 2023, 2, 29},
+               {"29 February of a century not divisible by 400", 1900, 2, 29},
+               {"year 0", 0, 1, 1},
+               {"year 10000", 10000, 1, 1},
+               {"month 13", 2024, 13, 1},
+               {"month 0", 2024, 0, 1},
+               {"31 April", 2024, 4, 31},
+               {"day 0", 2024, 1, 0}};
   TDateTime value = 0;
-  for (const auto& d : dates) {
-    EXPECT_FALSE(TryEncodeDate(d[0], d[1], d[2], value)) << d[0] << "-" << d[1] << "-" << d[2];
-    ExpectError([&] { EncodeDate(d[0], d[1], d[2]); }, DateError);
-  }
-  for (const auto& t : {std::array<Word, 4>{24, 0, 0, 0}, {0, 60, 0, 0}, {0, 0, 60, 0}, {0, 0, 0, 1000}}) {
-    EXPECT_FALSE(TryEncodeTime(t[0], t[1], t[2], t[3], value));
-    ExpectError([&] { EncodeTime(t[0], t[1], t[2], t[3]); }, TimeError);
-  }
+  ForEachRow(dates, [&](const auto& ADate) {
+    EXPECT_FALSE(TryEncodeDate(ADate.Year, ADate.Month, ADate.Day, value));
+    ExpectError([&] { EncodeDate(ADate.Year, ADate.Month, ADate.Day); }, DateError);
+  });
+  const struct {
+    const char* Name;
+    Word Hour, Minute, Second, Millisecond;
+  } times[] = {{"hour 24", 24, 0, 0, 0},
+               {"minute 60", 0, 60, 0, 0},
+               {"second 60", 0, 0, 60, 0},
+               {"millisecond 1000", 0, 0, 0, 1000}};
+  ForEachRow(times, [&](const auto& ATime) {
+    EXPECT_FALSE(TryEncodeTime(ATime.Hour, ATime.Minute, ATime.Second, ATime.Millisecond, value));
+    ExpectError([&] { EncodeTime(ATime.Hour, ATime.Minute, ATime.Second, ATime.Millisecond); }, TimeError);
+  });
   ExpectError([] { EncodeDateTime(2024, 1, 1, 0, 0, 0, 1000); }, TimeError);
 }
 

@@ -5,6 +5,7 @@
 
 #include "rtl/SysUtils.h"
 #include "tests/rtl/ExpectError.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo::Testing {
 namespace {
@@ -115,27 +116,38 @@ TEST(SysUtilsIntegerTest, IntegersToText) {
 
 TEST(SysUtilsFloatTest, FloatToStrGeneralForm) {
   const Extended inf = std::numeric_limits<Extended>::infinity();
-  const std::pair<Single, const char*> singles[] = {
-      {0.1f, "0.1"}, {1.0f / 3, "0.3333333"}, {FLT_MAX, "3.402823E38"}, {1234567, "1234567"}, {12345678, "1.234568E7"}};
-  for (const auto& [value, text] : singles) EXPECT_EQ(FloatToStr(value), text);
-  const std::pair<Extended, const char*> rows[] = {{Extended(0.1f), "0.100000001490116"},
-                                                   {1.0L / 3, "0.333333333333333"},
-                                                   {1e20L, "1E20"},
-                                                   {1.5e-7L, "1.5E-7"},
-                                                   {DBL_MAX, "1.79769313486232E308"},
-                                                   {-FLT_MAX, "-3.40282346638529E38"},
-                                                   {100, "100"},
-                                                   {0.00001L, "0.00001"},
-                                                   {0.0000099L, "9.9E-6"},
-                                                   {1e14L, "100000000000000"},
-                                                   {1e15L, "1E15"},
-                                                   {999999999999999.9L, "1E15"},
-                                                   {-2.5L, "-2.5"},
-                                                   {-0.0L, "0"},
-                                                   {inf, "INF"},
-                                                   {-inf, "-INF"},
-                                                   {std::numeric_limits<Extended>::quiet_NaN(), "NAN"}};
-  for (const auto& [value, text] : rows) EXPECT_EQ(FloatToStr(value), text);
+  const struct {
+    const char* Name;
+    Single Value;
+    const char* Text;
+  } singles[] = {{"a tenth in single precision", 0.1f, "0.1"},
+                 {"a third keeps seven digits", 1.0f / 3, "0.3333333"},
+                 {"the largest single", FLT_MAX, "3.402823E38"},
+                 {"seven integer digits", 1234567, "1234567"},
+                 {"eight integer digits turn exponential", 12345678, "1.234568E7"}};
+  ForEachRow(singles, [](const auto& ARow) { EXPECT_EQ(FloatToStr(ARow.Value), ARow.Text); });
+  const struct {
+    const char* Name;
+    Extended Value;
+    const char* Text;
+  } rows[] = {{"a single's tenth widened", Extended(0.1f), "0.100000001490116"},
+              {"a third keeps fifteen digits", 1.0L / 3, "0.333333333333333"},
+              {"a large power of ten", 1e20L, "1E20"},
+              {"a small number", 1.5e-7L, "1.5E-7"},
+              {"the largest double", DBL_MAX, "1.79769313486232E308"},
+              {"the lowest single", -FLT_MAX, "-3.40282346638529E38"},
+              {"an integer", 100, "100"},
+              {"the smallest plain fraction", 0.00001L, "0.00001"},
+              {"below it, exponential", 0.0000099L, "9.9E-6"},
+              {"fifteen integer digits", 1e14L, "100000000000000"},
+              {"sixteen integer digits turn exponential", 1e15L, "1E15"},
+              {"rounding up to sixteen digits", 999999999999999.9L, "1E15"},
+              {"a negative number", -2.5L, "-2.5"},
+              {"negative zero", -0.0L, "0"},
+              {"infinity", inf, "INF"},
+              {"negative infinity", -inf, "-INF"},
+              {"not a number", std::numeric_limits<Extended>::quiet_NaN(), "NAN"}};
+  ForEachRow(rows, [](const auto& ARow) { EXPECT_EQ(FloatToStr(ARow.Value), ARow.Text); });
 }
 
 TEST(SysUtilsFloatTest, SeparatorComesFromTheSettings) {
@@ -208,23 +220,29 @@ TEST(SysUtilsFloatTest, TextToNumbers) {
 
 TEST(SysUtilsFormatTest, Directives) {
   const String name = "Caption";
-  const std::pair<String, const char*> rows[] = {
-      {Format("Value must be between %d and %d", {1, 5}), "Value must be between 1 and 5"},
-      {Format("'%s' is not a valid date", {name}), "'Caption' is not a valid date"},
-      {Format("%s%s", {"a", 'b'}), "ab"},
-      {Format("100%%", {}), "100%"},
-      {Format("%d|%d|%u", {INT64_MIN, UINT64_MAX, Byte(7)}), "-9223372036854775808|18446744073709551615|7"},
-      {Format("%u %x", {-1, SmallInt(-1)}), "4294967295 FFFF"},
-      {Format("%x %.4x %X", {255, 10, Int64(-1)}), "FF 000A FFFFFFFFFFFFFFFF"},
-      {Format("[%5d][%-5d][%.3d][%6.3d]", {42, 42, -7, 7}), "[   42][42   ][-007][   007]"},
-      {Format("[%4s][%-4s][%.2s]", {"ab", "ab", "abcdef"}), "[  ab][ab  ][ab]"},
-      {Format("%f %.3f %.0f", {2.0, 3.14159, 2.5}), "2.00 3.142 2"},
-      {Format("%g %.3g %g", {0.1, 2.0 / 3, 1e20}), "0.1 0.667 1E20"},
-      {Format("%1:s %0:s %s", {"a", "b"}), "b a b"},
-      {Format("%.1f", {1.25}, CommaSettings()), "1,2"},
-      {Format("%d", {1, 2}), "1"}, // extra arguments are ignored
+  const struct {
+    const char* Name;
+    String Actual;
+    const char* Expected;
+  } rows[] = {
+      {"integers", Format("Value must be between %d and %d", {1, 5}), "Value must be between 1 and 5"},
+      {"a text", Format("'%s' is not a valid date", {name}), "'Caption' is not a valid date"},
+      {"a text and a character", Format("%s%s", {"a", 'b'}), "ab"},
+      {"a percent sign", Format("100%%", {}), "100%"},
+      {"the widest integers", Format("%d|%d|%u", {INT64_MIN, UINT64_MAX, Byte(7)}),
+       "-9223372036854775808|18446744073709551615|7"},
+      {"unsigned of negatives, in their own width", Format("%u %x", {-1, SmallInt(-1)}), "4294967295 FFFF"},
+      {"hexadecimal with precision", Format("%x %.4x %X", {255, 10, Int64(-1)}), "FF 000A FFFFFFFFFFFFFFFF"},
+      {"integer widths and precisions", Format("[%5d][%-5d][%.3d][%6.3d]", {42, 42, -7, 7}),
+       "[   42][42   ][-007][   007]"},
+      {"text widths and precision", Format("[%4s][%-4s][%.2s]", {"ab", "ab", "abcdef"}), "[  ab][ab  ][ab]"},
+      {"fixed floats", Format("%f %.3f %.0f", {2.0, 3.14159, 2.5}), "2.00 3.142 2"},
+      {"general floats", Format("%g %.3g %g", {0.1, 2.0 / 3, 1e20}), "0.1 0.667 1E20"},
+      {"argument indexes", Format("%1:s %0:s %s", {"a", "b"}), "b a b"},
+      {"the settings' decimal separator", Format("%.1f", {1.25}, CommaSettings()), "1,2"},
+      {"extra arguments are ignored", Format("%d", {1, 2}), "1"},
   };
-  for (const auto& [actual, expected] : rows) EXPECT_EQ(actual, expected);
+  ForEachRow(rows, [](const auto& ARow) { EXPECT_EQ(ARow.Actual, ARow.Expected); });
 
   for (const auto& [format, argument] : std::vector<std::pair<String, TFormatArg>>{
            {"%d", "x"}, {"%s", 1}, {"%x", 1.5}, {"%f", 1}, {"%q", 1}, {"50%", 1}})
