@@ -187,13 +187,17 @@ TEST(SysUtilsFloatTest, TextToNumbers) {
   EXPECT_EQ(narrow, 1.25);
   ExpectError([] { StrToFloat("1.x"); }, "'1.x' is not a valid floating point value");
 
-  for (const auto& [scaled, text] : {std::pair<Int64, const char*>{15000, "1.5"},
-                                     {20000, "2"},
-                                     {-1, "-0.0001"},
-                                     {123456789, "12345.6789"},
-                                     {0, "0"},
-                                     {INT64_MIN, "-922337203685477.5808"}})
-    EXPECT_EQ(CurrToStr(Currency::FromScaled(scaled)), text);
+  const struct {
+    const char* Name;
+    Int64 Scaled;
+    const char* Text;
+  } currencies[] = {{"a fraction", 15000, "1.5"},
+                    {"a whole number", 20000, "2"},
+                    {"the smallest step below zero", -1, "-0.0001"},
+                    {"all four places", 123456789, "12345.6789"},
+                    {"zero", 0, "0"},
+                    {"the lowest currency", INT64_MIN, "-922337203685477.5808"}};
+  ForEachRow(currencies, [](const auto& ARow) { EXPECT_EQ(CurrToStr(Currency::FromScaled(ARow.Scaled)), ARow.Text); });
   Currency money;
   EXPECT_TRUE(TryStrToCurr("1.23456", money));
   EXPECT_EQ(money.Scaled, 12346);

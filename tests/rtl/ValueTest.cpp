@@ -3,6 +3,7 @@
 #include "rtl/Sets.h"
 #include "rtl/Value.h"
 #include "rtl/Variant.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 
@@ -50,26 +51,30 @@ TEST(ValueTest, EmptyValue) {
 }
 
 TEST(ValueTest, ToStringByType) {
-  const std::pair<TValue, const char*> rows[] = {
-      {TValue(-12), "-12"},
-      {TValue::From(Cardinal(4000000000u)), "4000000000"},
-      {TValue::From(UINT64_MAX), "18446744073709551615"},
-      {TValue(true), "True"},
-      {TValue::From(tfBanana), "tfBanana"},
-      {TValue::From(TTestFruits{tfApple, tfCherry}), "[tfApple,tfCherry]"},
-      {TValue::From(TTestFruits{}), "[]"},
-      {TValue::From('x'), "x"},
-      {TValue::From(u'\u00e9'), "\xc3\xa9"},
-      {TValue("abc"), "abc"},
-      {TValue::From(1.0f / 3.0f), "0.3333333"},
-      {TValue(2.5), "2.5"},
-      {TValue::From(TDateTime(45351.5), &TypeInfo_TDateTime), "2024-02-29 12:00:00"},
-      {TValue::From(TDateTime(45351.0), &TypeInfo_TDate), "2024-02-29"},
-      {TValue::From(Currency::FromScaled(15000)), "1.5"},
-      {TValue(static_cast<TObject*>(nullptr)), "nil"},
-      {TValue::From(Variant(String("42"))), "42"},
+  const struct {
+    const char* Name;
+    TValue Value;
+    const char* Text;
+  } rows[] = {
+      {"a negative integer", TValue(-12), "-12"},
+      {"a cardinal above the signed range", TValue::From(Cardinal(4000000000u)), "4000000000"},
+      {"the largest unsigned 64-bit number", TValue::From(UINT64_MAX), "18446744073709551615"},
+      {"a boolean", TValue(true), "True"},
+      {"an enumeration", TValue::From(tfBanana), "tfBanana"},
+      {"a set", TValue::From(TTestFruits{tfApple, tfCherry}), "[tfApple,tfCherry]"},
+      {"an empty set", TValue::From(TTestFruits{}), "[]"},
+      {"a character", TValue::From('x'), "x"},
+      {"a wide character, as UTF-8", TValue::From(u'\u00e9'), "\xc3\xa9"},
+      {"a text", TValue("abc"), "abc"},
+      {"a single", TValue::From(1.0f / 3.0f), "0.3333333"},
+      {"a double", TValue(2.5), "2.5"},
+      {"a date and time", TValue::From(TDateTime(45351.5), &TypeInfo_TDateTime), "2024-02-29 12:00:00"},
+      {"a date", TValue::From(TDateTime(45351.0), &TypeInfo_TDate), "2024-02-29"},
+      {"a currency", TValue::From(Currency::FromScaled(15000)), "1.5"},
+      {"a nil object", TValue(static_cast<TObject*>(nullptr)), "nil"},
+      {"a variant", TValue::From(Variant(String("42"))), "42"},
   };
-  for (const auto& [value, text] : rows) EXPECT_EQ(value.ToString(), text) << value.GetTypeInfo()->Name;
+  Testing::ForEachRow(rows, [](const auto& ARow) { EXPECT_EQ(ARow.Value.ToString(), ARow.Text); });
 }
 
 // Each row parses into a value of the row's type: the type stays, and a failure leaves the value.
