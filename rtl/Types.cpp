@@ -6,11 +6,14 @@
 
 namespace Tarvo {
 
-Currency Currency::FromDouble(Extended AValue) {
+bool Currency::Fits(Extended AValue) {
   const Extended scaled = std::nearbyint(AValue * Scale);
-  if (!(scaled >= -9.2233720368547758e18L && scaled < 9.2233720368547758e18L))
-    throw EInvalidCast("Floating point value out of the range of Currency");
-  return Currency{static_cast<Int64>(scaled)};
+  return scaled >= -0x1p63L && scaled < 0x1p63L;
+}
+
+Currency Currency::FromDouble(Extended AValue) {
+  if (!Fits(AValue)) throw EInvalidCast("Floating point value out of the range of Currency");
+  return Currency{static_cast<Int64>(std::nearbyint(AValue * Scale))};
 }
 
 } // namespace Tarvo

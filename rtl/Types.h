@@ -38,7 +38,10 @@ struct Currency {
   Int64 Scaled = 0;
 
   static constexpr Currency FromScaled(Int64 AScaled) { return Currency{AScaled}; }
+  // Raises EInvalidCast for a value that Fits refuses.
   static Currency FromDouble(Extended AValue);
+  // Whether the value, rounded to four places, lies within the currency's range.
+  static bool Fits(Extended AValue);
   Extended ToExtended() const { return static_cast<Extended>(Scaled) / Scale; }
   friend constexpr bool operator==(Currency, Currency) = default;
   friend constexpr auto operator<=>(Currency, Currency) = default;

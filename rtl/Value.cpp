@@ -1,6 +1,7 @@
 #include "rtl/Value.h"
 
 #include <atomic>
+#include <cmath>
 #include <cstdio>
 #include <new>
 
@@ -92,6 +93,25 @@ TValue MakeFloat(PTypeInfo AType, Extended AValue) {
     return MakeOf<Int64>(AType, static_cast<Int64>(AValue));
   }
   return {};
+}
+
+// A float type holds the value: a finite value must not become infinite, and a currency or Comp
+// value must stay in its 64-bit range, as an integer out of its type's range is refused.
+bool FitsFloat(PTypeInfo AType, Extended AValue) {
+  if (AType->FloatType == ftCurr) return Currency::Fits(AValue);
+  if (!std::isfinite(AValue)) return true; // infinity and NaN stand for themselves
+  switch (AType->FloatType) {
+  case ftSingle:
+    return std::isfinite(static_cast<Single>(AValue));
+  case ftDouble:
+    return std::isfinite(static_cast<Double>(AValue));
+  case ftComp:
+    return AValue >= -0x1p63L && AValue < 0x1p63L;
+  case ftExtended:
+  case ftCurr:
+    return true;
+  }
+  return true;
 }
 
 bool IsIntegerKind(TTypeKind AKind) { return AKind == tkInteger || AKind == tkInt64; }
@@ -522,6 +542,7 @@ bool TValue::TryCast(PTypeInfo ATypeInfo, TValue& AResult, bool AEmptyAsAnyType)
       Extended value = 0;
       if (source != tkFloat && !IsIntegerKind(source)) return false;
       value = AsExtended();
+      if (!FitsFloat(ATypeInfo, value)) return false;
       AResult = MakeFloat(ATypeInfo, value);
       return true;
     }
@@ -616,7 +637,7 @@ bool TValue::FromString(const String& AText) {
       if (!TryStrToCurr(AText, currency)) return false;
       parsed = Make(&currency, type);
     } else {
-      if (!TryStrToFloat(AText, value)) return false;
+      if (!TryStrToFloat(AText, value) || !FitsFloat(type, value)) return false;
       parsed = MakeFloat(type, value);
     }
     break;

@@ -16,14 +16,19 @@ namespace {
 
 TEST(TypeRecordTest, OrdinalRangesEnumerationsAndSets) {
   // Unsigned 32-bit limits are kept as bit patterns and read back unsigned.
-  for (const auto& [type, min, max] : {std::tuple{&TypeInfo_Cardinal, Int64(0), Int64(4294967295)},
-                                       {&TypeInfo_ShortInt, -128, 127},
-                                       {&TypeInfo_WideChar, 0, 65535},
-                                       {&TypeInfo_Integer, INT32_MIN, INT32_MAX},
-                                       {&TypeInfo_Int64, INT64_MIN, INT64_MAX}}) {
-    EXPECT_EQ(type->OrdinalMin(), min) << type->Name;
-    EXPECT_EQ(type->OrdinalMax(), max) << type->Name;
-  }
+  const struct {
+    const char* Name;
+    PTypeInfo Type;
+    Int64 Min, Max;
+  } ranges[] = {{"cardinal", &TypeInfo_Cardinal, 0, 4294967295},
+                {"shortint", &TypeInfo_ShortInt, -128, 127},
+                {"wide character", &TypeInfo_WideChar, 0, 65535},
+                {"integer", &TypeInfo_Integer, INT32_MIN, INT32_MAX},
+                {"int64", &TypeInfo_Int64, INT64_MIN, INT64_MAX}};
+  Testing::ForEachRow(ranges, [](const auto& ARow) {
+    EXPECT_EQ(ARow.Type->OrdinalMin(), ARow.Min);
+    EXPECT_EQ(ARow.Type->OrdinalMax(), ARow.Max);
+  });
   const PTypeInfo fruit = TypeInfo<TTestFruit>();
   EXPECT_EQ(fruit->EnumName(1), "tfBanana");
   EXPECT_EQ(fruit->EnumName(3), "");
@@ -80,29 +85,36 @@ TEST(ValueTest, ToStringByType) {
 // Each row parses into a value of the row's type: the type stays, and a failure leaves the value.
 TEST(ValueTest, FromStringKeepsTheReceiversType) {
   const struct {
+    const char* Name;
     TValue Value;
     const char* Text;
     bool Ok;
     const char* After;
-  } rows[] = {{TValue(7), "abc", false, "7"},
-              {TValue(7), "$10", true, "16"},
-              {TValue::From(Byte(1)), "300", false, "1"}, // does not fit the type
-              {TValue::From(Byte(1)), "-1", false, "1"},
-              {TValue::From(Byte(1)), "255", true, "255"},
-              {TValue::From(tfApple), "TFCHERRY", true, "tfCherry"},
-              {TValue::From(tfApple), "tfDate", false, "tfApple"},
-              {TValue::From(TTestFruits{}), "[tfBanana, tfCherry]", true, "[tfBanana,tfCherry]"},
-              {TValue::From(TTestFruits{}), "[tfBanana, tfDate]", false, "[]"},
-              {TValue::From(TDateTime(0), &TypeInfo_TDate), "2024-02-29", true, "2024-02-29"},
-              {TValue::From(TDateTime(0), &TypeInfo_TDate), "2023-02-29", false, "1899-12-30"},
-              {TValue(false), "true", true, "True"},
-              {TValue(false), "maybe", false, "False"}};
-  for (const auto& r : rows) {
-    TValue value = r.Value;
-    EXPECT_EQ(value.FromString(r.Text), r.Ok) << r.Text;
-    EXPECT_EQ(value.GetTypeInfo(), r.Value.GetTypeInfo()) << r.Text;
-    EXPECT_EQ(value.ToString(), r.After) << r.Text;
-  }
+  } rows[] = {{"no number", TValue(7), "abc", false, "7"},
+              {"hexadecimal", TValue(7), "$10", true, "16"},
+              {"above a byte", TValue::From(Byte(1)), "300", false, "1"},
+              {"below a byte", TValue::From(Byte(1)), "-1", false, "1"},
+              {"a byte's largest", TValue::From(Byte(1)), "255", true, "255"},
+              {"an enumeration name in any case", TValue::From(tfApple), "TFCHERRY", true, "tfCherry"},
+              {"an unknown name", TValue::From(tfApple), "tfDate", false, "tfApple"},
+              {"a set", TValue::From(TTestFruits{}), "[tfBanana, tfCherry]", true, "[tfBanana,tfCherry]"},
+              {"a set with an unknown name", TValue::From(TTestFruits{}), "[tfBanana, tfDate]", false, "[]"},
+              {"a leap day", TValue::From(TDateTime(0), &TypeInfo_TDate), "2024-02-29", true, "2024-02-29"},
+              {"no leap day", TValue::From(TDateTime(0), &TypeInfo_TDate), "2023-02-29", false, "1899-12-30"},
+              {"a boolean", TValue(false), "true", true, "True"},
+              {"no boolean", TValue(false), "maybe", false, "False"},
+              {"above a double", TValue(1.5), "1e400", false, "1.5"},
+              {"below a double", TValue(1.5), "-1e400", false, "1.5"},
+              {"an extended holds it", TValue(Extended(1.5)), "1e400", true, "1E400"},
+              {"above a single", TValue::From(Single(1.5f)), "1e39", false, "1.5"},
+              {"a single's largest", TValue::From(Single(1.5f)), "3.4e38", true, "3.4E38"},
+              {"a single's smallest fraction rounds to zero", TValue::From(Single(1.5f)), "1e-50", true, "0"}};
+  Testing::ForEachRow(rows, [](const auto& ARow) {
+    TValue value = ARow.Value;
+    EXPECT_EQ(value.FromString(ARow.Text), ARow.Ok);
+    EXPECT_EQ(value.GetTypeInfo(), ARow.Value.GetTypeInfo());
+    EXPECT_EQ(value.ToString(), ARow.After);
+  });
   TValue object(static_cast<TObject*>(nullptr));
   EXPECT_THROW(object.FromString("x"), EConvertError);
 }
@@ -118,36 +130,41 @@ TEST(ValueTest, ReadingAndCasting) {
   EXPECT_THROW(TValue(3).AsString(), EInvalidCast);
   EXPECT_THROW(TValue("3").AsOrdinal(), EInvalidCast);
   EXPECT_EQ(TValue::From(Variant(String("42"))).AsInteger(), 42);
-  for (const auto& [value, code] : {std::pair{TValue(5), varInteger},
-                                    {TValue("s"), varUString},
-                                    {TValue::From(Currency::FromScaled(10000)), varCurrency},
-                                    {TValue::From(TDateTime(1), &TypeInfo_TDateTime), varDate}})
-    EXPECT_EQ(value.AsVariant().VarType(), code) << value.ToString();
+  const struct {
+    const char* Name;
+    TValue Value;
+    TVarType Code;
+  } variants[] = {{"an integer", TValue(5), varInteger},
+                  {"a text", TValue("s"), varUString},
+                  {"a currency", TValue::From(Currency::FromScaled(10000)), varCurrency},
+                  {"a date and time", TValue::From(TDateTime(1), &TypeInfo_TDateTime), varDate}};
+  Testing::ForEachRow(variants, [](const auto& ARow) { EXPECT_EQ(ARow.Value.AsVariant().VarType(), ARow.Code); });
 
   // Casts check the target's range; a variant converts through its own conversions.
   const struct {
+    const char* Name;
     TValue Value;
     PTypeInfo Target;
     const char* Result; // nil when the cast fails
-  } casts[] = {{TValue(255), &TypeInfo_Byte, "255"},
-               {TValue(256), &TypeInfo_Byte, nullptr},
-               {TValue(-5), &TypeInfo_Cardinal, nullptr},
-               {TValue(Int64(4000000000)), &TypeInfo_Cardinal, "4000000000"},
-               {TValue::From(UInt64(1) << 63), &TypeInfo_Int64, nullptr},
-               {TValue(3), &TypeInfo_Double, "3"},
-               {TValue(2.5), &TypeInfo_Integer, nullptr},
-               {TValue(1), TypeInfo<TTestFruit>(), nullptr}, // no integer into an enumeration
-               {TValue("x"), &TypeInfo_AnsiString, "x"},
-               {TValue::From(Variant(String("42"))), &TypeInfo_Byte, "42"},
-               {TValue::From(Variant(String("x"))), &TypeInfo_Integer, nullptr}};
-  for (const auto& c : casts) {
+  } casts[] = {{"a byte's largest", TValue(255), &TypeInfo_Byte, "255"},
+               {"above a byte", TValue(256), &TypeInfo_Byte, nullptr},
+               {"below a cardinal", TValue(-5), &TypeInfo_Cardinal, nullptr},
+               {"a cardinal above the integers", TValue(Int64(4000000000)), &TypeInfo_Cardinal, "4000000000"},
+               {"above an int64", TValue::From(UInt64(1) << 63), &TypeInfo_Int64, nullptr},
+               {"an integer to a double", TValue(3), &TypeInfo_Double, "3"},
+               {"a fraction to an integer", TValue(2.5), &TypeInfo_Integer, nullptr},
+               {"no integer into an enumeration", TValue(1), TypeInfo<TTestFruit>(), nullptr},
+               {"a text to an ansi string", TValue("x"), &TypeInfo_AnsiString, "x"},
+               {"a variant converts", TValue::From(Variant(String("42"))), &TypeInfo_Byte, "42"},
+               {"a variant that does not convert", TValue::From(Variant(String("x"))), &TypeInfo_Integer, nullptr}};
+  Testing::ForEachRow(casts, [](const auto& c) {
     TValue result;
-    ASSERT_EQ(c.Value.TryCast(c.Target, result), c.Result != nullptr) << c.Value.ToString() << " to " << c.Target->Name;
+    ASSERT_EQ(c.Value.TryCast(c.Target, result), c.Result != nullptr);
     if (c.Result) {
       EXPECT_EQ(result.GetTypeInfo(), c.Target);
       EXPECT_EQ(result.ToString(), c.Result);
     }
-  }
+  });
   EXPECT_THROW(TValue("x").Cast(&TypeInfo_Integer), EInvalidCast);
 }
 
