@@ -17,11 +17,13 @@ TEST(ArrayListTest, IndexBoundaries) {
   IntList list = Make({1, 2, 3});
   list->Delete(3)->Delete(100)->Delete(3, 10); // at or past the end: ignored
   EXPECT_EQ(Contents(list), (V{1, 2, 3}));
-  for (const auto& call : std::vector<std::function<void()>>{[&] { list->GetItem(3); }, [&] { list->GetItem(-1); },
-                                                             [&] { list->Delete(-1); }, [&] { list->SetItem(3, 0); },
-                                                             [&] { list->Swap(0, 3); }, [&] { list->Delete(1, 3); },
-                                                             [&] { list->Insert(4, 9); }})
-    EXPECT_THROW(call(), EListError);
+  ExpectAssertions<EListError>({{"reading at the end", [&] { list->GetItem(3); }},
+                                {"reading before the start", [&] { list->GetItem(-1); }},
+                                {"deleting before the start", [&] { list->Delete(-1); }},
+                                {"writing at the end", [&] { list->SetItem(3, 0); }},
+                                {"swapping with the end", [&] { list->Swap(0, 3); }},
+                                {"deleting a range past the end", [&] { list->Delete(1, 3); }},
+                                {"inserting past the end", [&] { list->Insert(4, 9); }}});
   EXPECT_EQ(Contents(list), (V{1, 2, 3}));
   list->Delete(1, 2)->Insert(1, Make({2, 3, 4}))->Insert(4, 5);
   EXPECT_EQ(Contents(list), (V{1, 2, 3, 4, 5}));
@@ -78,13 +80,17 @@ TEST(ArrayListTest, FindOrAddMakesAnElementOnlyWhenNoneMatches) {
 TEST(ArrayListTest, NilArgumentsAreAssertionFailures) {
   IntList list = Make({1});
   const TFunc<Integer, int> item = [](Integer AIndex) { return AIndex; };
-  ExpectAssertions({[&] { list->Append(TRef<IEnumerable<int>>()); }, [&] { list->Assign(nullptr); },
-                    [&] { list->RemoveAll(TRef<IEnumerable<int>>()); }, [&] { list->RemoveOne(nullptr); },
-                    [&] { list->FindOrAdd(nullptr, 1); }, [&] { list->FindOrAdd(IsEven, TFunc<int>()); },
-                    [] { TArrayList<int>::CreateEnumerator(nullptr); }, [] { TArrayList<int>::CreateCopy(nullptr); },
-                    [&] { New<TBasicListEnumerator<int>>(nullptr, item); },
-                    [] { New<TBasicListEnumerator<int>>([] { return 1; }, nullptr); },
-                    [] { New<TReverseEnumeratorHost<int>>(nullptr); }});
+  ExpectAssertions({{"Append", [&] { list->Append(TRef<IEnumerable<int>>()); }},
+                    {"Assign", [&] { list->Assign(nullptr); }},
+                    {"RemoveAll of a list", [&] { list->RemoveAll(TRef<IEnumerable<int>>()); }},
+                    {"RemoveOne by predicate", [&] { list->RemoveOne(nullptr); }},
+                    {"FindOrAdd's predicate", [&] { list->FindOrAdd(nullptr, 1); }},
+                    {"FindOrAdd's maker", [&] { list->FindOrAdd(IsEven, TFunc<int>()); }},
+                    {"CreateEnumerator", [] { TArrayList<int>::CreateEnumerator(nullptr); }},
+                    {"CreateCopy", [] { TArrayList<int>::CreateCopy(nullptr); }},
+                    {"an enumerator's count", [&] { New<TBasicListEnumerator<int>>(nullptr, item); }},
+                    {"an enumerator's item", [] { New<TBasicListEnumerator<int>>([] { return 1; }, nullptr); }},
+                    {"a reverse host's list", [] { New<TReverseEnumeratorHost<int>>(nullptr); }}});
   EXPECT_EQ(Contents(list), (V{1}));
 }
 

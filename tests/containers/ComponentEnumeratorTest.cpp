@@ -96,10 +96,11 @@ TEST_F(ComponentEnumeratorTest, ResetInsideASubtreeStartsOverAndLostChildrenEndA
 }
 
 TEST_F(ComponentEnumeratorTest, NilArgumentsAreAssertionFailures) {
-  ExpectAssertions({[&] { New<TFilterEnumerator<TNode*>>(Make<TForward>(&Root), nullptr); },
-                    [] { New<TFilterEnumerator<TNode*>>(nullptr, [](TNode* const&) { return true; }); },
-                    [&] { New<TForwardRecursive>(&Root, nullptr, GetItem); },
-                    [&] { New<TReverse>(&Root, GetCount, nullptr); }});
+  ExpectAssertions(
+      {{"a filter's predicate", [&] { New<TFilterEnumerator<TNode*>>(Make<TForward>(&Root), nullptr); }},
+       {"a filter's walk", [] { New<TFilterEnumerator<TNode*>>(nullptr, [](TNode* const&) { return true; }); }},
+       {"a walk's count", [&] { New<TForwardRecursive>(&Root, nullptr, GetItem); }},
+       {"a walk's item", [&] { New<TReverse>(&Root, GetCount, nullptr); }}});
 }
 
 // ---- The query over child components ----

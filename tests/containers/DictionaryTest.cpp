@@ -120,9 +120,12 @@ TEST(DictionaryTest, InterfacesAndArgumentChecks) {
   EXPECT_FALSE((Supports<IDictionary<Integer, String>>(asInterface))); // an interface without an identifier
   EXPECT_TRUE((Supports<IEnumerable<TAgePair>>(asInterface)));
   EXPECT_TRUE(Supports<IChangeNotification>(asInterface));
-  ExpectAssertions({[&] { ages->RemoveOne(nullptr); }, [&] { ages->RemoveAll(nullptr); },
-                    [&] { ages->GetOrAdd("bob", nullptr); }, [&] { ages->ForKey("bob", nullptr); },
-                    [&] { ages->Keys(nullptr); }, [&] { ages->Values(nullptr); }});
+  ExpectAssertions({{"RemoveOne", [&] { ages->RemoveOne(nullptr); }},
+                    {"RemoveAll", [&] { ages->RemoveAll(nullptr); }},
+                    {"GetOrAdd", [&] { ages->GetOrAdd("bob", nullptr); }},
+                    {"ForKey", [&] { ages->ForKey("bob", nullptr); }},
+                    {"Keys", [&] { ages->Keys(nullptr); }},
+                    {"Values", [&] { ages->Values(nullptr); }}});
 }
 
 } // namespace

@@ -60,14 +60,13 @@ TEST(LinkedListWalkTest, ChangesDuringAWalk) {
        {1, 2, 3, 9},
        4},
   };
-  for (const auto& r : rows) {
-    SCOPED_TRACE(r.Name);
+  ForEachRow(rows, [](const auto& r) {
     const LinkedInts list = MakeLinked(r.Items);
     EXPECT_EQ(WalkWith(list, [&](int A) { r.Step(list, A); }), r.Seen);
     list->Add(9);
     EXPECT_EQ(Contents(list), r.After);
     EXPECT_EQ(list->GetCount(), r.Count);
-  }
+  });
 }
 
 TEST(LinkedListWalkTest, PopFirstDuringAWalkFindsTheSameNode) {
@@ -173,9 +172,11 @@ TEST(LinkedListTest, CopiesAndQueriesAreLinkedLists) {
   EXPECT_EQ(Contents(odd), (V{5, 7}));
   EXPECT_EQ(list->Query()->Take(0)->GetCount(), 0);
   // Reading the current element before the first step fails like a nil argument.
-  ExpectAssertions({[&] { list->GetEnumerator()->GenericGetCurrent(); },
-                    [&] { list->Append(TRef<IEnumerable<int>>()); }, [&] { list->IfRemoveOne(nullptr); },
-                    [&] { list->ForLast(nullptr); }, [] { TLinkedList<int>::CreateEnumerator(nullptr); }});
+  ExpectAssertions({{"current before the first step", [&] { list->GetEnumerator()->GenericGetCurrent(); }},
+                    {"Append", [&] { list->Append(TRef<IEnumerable<int>>()); }},
+                    {"IfRemoveOne", [&] { list->IfRemoveOne(nullptr); }},
+                    {"ForLast", [&] { list->ForLast(nullptr); }},
+                    {"CreateEnumerator", [] { TLinkedList<int>::CreateEnumerator(nullptr); }}});
   EXPECT_EQ(Contents(list), (V{5, 6, 7}));
 }
 

@@ -50,10 +50,14 @@ template <class T> std::vector<T> Walk(const TRef<IEnumerator<T>>& AEnumerator) 
 
 template <class L> auto Contents(const TRef<L>& AList) { return Walk(AList->GetEnumerator()); }
 
-// Each call must fail its argument check.
-inline void ExpectAssertions(std::initializer_list<std::function<void()>> ACalls) {
-  int index = 0;
-  for (const auto& call : ACalls) EXPECT_THROW(call(), EAssertionFailed) << "call " << index++;
+struct TNamedCall {
+  const char* Name;
+  std::function<void()> Call;
+};
+
+// Each call must fail its argument check (or raise E).
+template <class E = EAssertionFailed> void ExpectAssertions(std::initializer_list<TNamedCall> ACalls) {
+  ForEachRow(ACalls, [](const TNamedCall& ACall) { EXPECT_THROW(ACall.Call(), E); });
 }
 
 } // namespace Tarvo::Testing

@@ -189,22 +189,26 @@ TEST(QueryTest, NilArgumentsAreAssertionFailures) {
   Integer item = 0;
   using TIntContainerQuery = TContainerQuery<TIntsRef, TIntsRef, Integer>;
   const auto walk = [] { return Ints({})->GetEnumerator(); };
-  ExpectAssertions({[&] { query->Equals(nullptr); }, [&] { query->ContainsAny(nullptr); },
-                    [&] { query->Contains(noPredicate); }, [&] { query->Count(noPredicate); },
-                    [&] { query->Find(noPredicate, item); }, [&] { asked.Find(noPredicate, item); },
-                    [&] { asked.Find(IsEvenItem, noProc); }, [&] { query->IndexOf(noPredicate, item); },
-                    [&] { query->Filter(noPredicate); }, [&] { query->ForEach(noProc); },
-                    [&] { query->ForEach(TConstProc<Integer, Integer>()); }, [&] { query->ForFirst(noProc); },
-                    [&] { query->ForFirstMatch(noPredicate, proc); }, [&] { query->ForFirstMatch(IsEvenItem, noProc); },
-                    [&] { query->Do(nullptr); }, [] { New<TQuery<Integer>>(nullptr); },
-                    [&] {
-                      New<TIntContainerQuery>(
-                          walk, nullptr, [](TIntsRef, Integer) {}, nullptr);
-                    },
-                    [&] {
-                      New<TIntContainerQuery>(
-                          walk, [] { return New<TInts>(); }, nullptr, nullptr);
-                    }});
+  const auto makeInts = [] { return New<TInts>(); };
+  const auto addInt = [](TIntsRef, Integer) {};
+  ExpectAssertions({{"Equals", [&] { query->Equals(nullptr); }},
+                    {"ContainsAny", [&] { query->ContainsAny(nullptr); }},
+                    {"Contains", [&] { query->Contains(noPredicate); }},
+                    {"Count", [&] { query->Count(noPredicate); }},
+                    {"the fluent Find", [&] { query->Find(noPredicate, item); }},
+                    {"the Boolean Find", [&] { asked.Find(noPredicate, item); }},
+                    {"Find's procedure", [&] { asked.Find(IsEvenItem, noProc); }},
+                    {"IndexOf", [&] { query->IndexOf(noPredicate, item); }},
+                    {"Filter", [&] { query->Filter(noPredicate); }},
+                    {"ForEach", [&] { query->ForEach(noProc); }},
+                    {"ForEach with indices", [&] { query->ForEach(TConstProc<Integer, Integer>()); }},
+                    {"ForFirst", [&] { query->ForFirst(noProc); }},
+                    {"ForFirstMatch's predicate", [&] { query->ForFirstMatch(noPredicate, proc); }},
+                    {"ForFirstMatch's procedure", [&] { query->ForFirstMatch(IsEvenItem, noProc); }},
+                    {"Do", [&] { query->Do(nullptr); }},
+                    {"a query's walk", [] { New<TQuery<Integer>>(nullptr); }},
+                    {"a container query's maker", [&] { New<TIntContainerQuery>(walk, nullptr, addInt, nullptr); }},
+                    {"a container query's adder", [&] { New<TIntContainerQuery>(walk, makeInts, nullptr, nullptr); }}});
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "design/Designer.h"
 #include "reflection/Publish.h"
 #include "reflection/RttiTypes.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 
@@ -107,54 +108,34 @@ using DesignerSelectionTest = DesignerTest;
 
 TEST_F(DesignerSelectionTest, ChangeIsByIdentityAndOrder) {
   TRef<IObjectArrayList> start;
+  const auto list = [this](std::vector<TObject*> AObjects) {
+    return [this, AObjects] { Designer->SetSelection(ListOf(AObjects)); };
+  };
+  const auto array = [this](TObject* AFirst, TObject* ASecond) {
+    return [this, AFirst, ASecond] { Designer->SetSelection(std::array<TObject*, 2>{AFirst, ASecond}); };
+  };
   const struct {
     const char* Name;
     std::function<void()> Next;
     bool Announced;
-  } cases[] = {
-      {"the same list, grown in place", [&] { Designer->SetSelection(start->Add(&C)); }, false},
-      {"an equal copy",
-       [&] {
-         Designer->SetSelection(ListOf({&A, &B}));
-       },
-       false},
-      {"an equal array",
-       [&] {
-         Designer->SetSelection(std::array<TObject*, 2>{&A, &B});
-       },
-       false},
-      {"the same objects reversed",
-       [&] {
-         Designer->SetSelection(ListOf({&B, &A}));
-       },
-       true},
-      {"an array reversed",
-       [&] {
-         Designer->SetSelection(std::array<TObject*, 2>{&B, &A});
-       },
-       true},
-      {"one more",
-       [&] {
-         Designer->SetSelection(ListOf({&A, &B, &C}));
-       },
-       true},
-      {"one less", [&] { Designer->SetSelection(ListOf({&A})); }, true},
-      {"another object at an index",
-       [&] {
-         Designer->SetSelection(ListOf({&A, &C}));
-       },
-       true},
-      {"nil", [&] { Designer->SetSelection(TRef<IObjectArrayList>()); }, true},
-  };
-  for (const auto& c : cases) {
+  } cases[] = {{"the same list, grown in place", [&] { Designer->SetSelection(start->Add(&C)); }, false},
+               {"an equal copy", list({&A, &B}), false},
+               {"an equal array", array(&A, &B), false},
+               {"the same objects reversed", list({&B, &A}), true},
+               {"an array reversed", array(&B, &A), true},
+               {"one more", list({&A, &B, &C}), true},
+               {"one less", list({&A}), true},
+               {"another object at an index", list({&A, &C}), true},
+               {"nil", [&] { Designer->SetSelection(TRef<IObjectArrayList>()); }, true}};
+  Testing::ForEachRow(cases, [&](const auto& c) {
     Designer = New<TDesigner>();
     start = ListOf({&A, &B});
     Designer->SetSelection(start);
     Listen(Designer, "L");
     c.Next();
-    EXPECT_EQ(Log, c.Announced ? TLog{"L:SelectionChanged"} : TLog{}) << c.Name;
+    EXPECT_EQ(Log, c.Announced ? TLog{"L:SelectionChanged"} : TLog{});
     Log.clear();
-  }
+  });
 }
 
 TEST_F(DesignerSelectionTest, NilLeavesAnEmptyListAndCallersGetCopies) {
@@ -191,35 +172,38 @@ TEST_F(DesignerUpdateTest, NestedBracketsAnnounceOnceAtTheOuterEdges) {
 // A nested designer forwards every notice and the listeners to the designer it wraps.
 TEST_F(DesignerUpdateTest, NoticesInsideABracketAreDroppedNotDeferred) {
   const struct {
+    const char* Name;
     String Sent;
     std::function<void(IDesigner&)> Act;
-  } cases[] = {
-      {"ItemModified", [](IDesigner& D) { D.Modified(); }},
-      {"BeginModify", [](IDesigner& D) { D.BeginModify(); }},
-      {"EndModify", [](IDesigner& D) { D.EndModify(); }},
-      {"ResetObjectInspector", [](IDesigner& D) { D.ResetObjectInspector(); }},
-      {"RefreshView", [](IDesigner& D) { D.RefreshView(); }},
-      {"BindingAdded", [this](IDesigner& D) { D.BindingAdded(&A); }},
-      {"BindingRemoved", [this](IDesigner& D) { D.BindingRemoved(&B); }},
-  };
-  for (const TRef<IDesigner>& designer :
-       {TRef<IDesigner>(Designer), TRef<IDesigner>(New<TNestedDesigner>(New<TDesigner>(), &C))}) {
-    const auto listener = Listen(designer, "L");
-    for (const auto& c : cases) {
-      c.Act(*designer);
+  } cases[] = {{"Modified", "ItemModified", [](IDesigner& D) { D.Modified(); }},
+               {"BeginModify", "BeginModify", [](IDesigner& D) { D.BeginModify(); }},
+               {"EndModify", "EndModify", [](IDesigner& D) { D.EndModify(); }},
+               {"ResetObjectInspector", "ResetObjectInspector", [](IDesigner& D) { D.ResetObjectInspector(); }},
+               {"RefreshView", "RefreshView", [](IDesigner& D) { D.RefreshView(); }},
+               {"BindingAdded", "BindingAdded", [this](IDesigner& D) { D.BindingAdded(&A); }},
+               {"BindingRemoved", "BindingRemoved", [this](IDesigner& D) { D.BindingRemoved(&B); }}};
+  const struct {
+    const char* Name;
+    TRef<IDesigner> Designer;
+  } designers[] = {{"stock designer", Designer}, {"nested designer", New<TNestedDesigner>(New<TDesigner>(), &C)}};
+  Testing::ForEachRow(designers, [&](const auto& ARow) {
+    IDesigner& designer = *ARow.Designer;
+    const auto listener = Listen(ARow.Designer, "L");
+    Testing::ForEachRow(cases, [&](const auto& c) {
+      c.Act(designer);
       EXPECT_EQ(Log, TLog{"L:" + c.Sent});
       Log.clear();
-      designer->BeginUpdate();
-      c.Act(*designer);
-      designer->EndUpdate();
-      EXPECT_EQ(Log, (TLog{"L:SelectionChangingBegin", "L:SelectionChanged"})) << c.Sent;
+      designer.BeginUpdate();
+      c.Act(designer);
+      designer.EndUpdate();
+      EXPECT_EQ(Log, (TLog{"L:SelectionChangingBegin", "L:SelectionChanged"}));
       Log.clear();
-    }
+    });
     EXPECT_EQ(listener->Objects, (std::vector<TObject*>{&A, &B}));
-    designer->RemoveSelectionChangeNotify(listener);
-    designer->RefreshView();
+    designer.RemoveSelectionChangeNotify(listener);
+    designer.RefreshView();
     EXPECT_TRUE(Log.empty());
-  }
+  });
 }
 
 TEST_F(DesignerUpdateTest, UnbalancedEndUpdateMutesUntilBalanced) {
@@ -278,19 +262,20 @@ using DesignerComponentTest = DesignerTest;
 
 TEST_F(DesignerComponentTest, ConstructorSeesDesigningAndLoadingState) {
   const struct {
+    const char* Name;
     Boolean DesignMode, Loading;
     TComponentState Seen;
-  } cases[] = {{true, false, {csDesigning}},
-               {true, true, {csDesigning, csLoading}},
-               {false, true, {csLoading}},
-               {false, false, {}}};
-  for (const auto& c : cases) {
+  } cases[] = {{"designing", true, false, {csDesigning}},
+               {"designing and loading", true, true, {csDesigning, csLoading}},
+               {"loading out of design mode", false, true, {csLoading}},
+               {"out of design mode", false, false, {}}};
+  Testing::ForEachRow(cases, [](const auto& c) {
     const auto designer = New<TTestFormDesigner>();
     designer->DesignMode = c.DesignMode;
     const auto* widget = Create(*designer, c.Loading);
-    EXPECT_EQ(widget->StateInConstructor, c.Seen) << c.DesignMode << c.Loading;
+    EXPECT_EQ(widget->StateInConstructor, c.Seen);
     EXPECT_EQ(widget->Owner(), designer->Root.get());
-  }
+  });
 }
 
 TEST_F(DesignerComponentTest, NamedThroughUniqueNameAndPreparedWhenDynamic) {
@@ -362,30 +347,32 @@ TEST(SelectionChangeNotifierTest, EachOperationCallsItsProcedure) {
   EXPECT_TRUE(chained == bare);
   TPersistent item;
   const struct {
+    const char* Name;
     std::function<void(ISelectionChange&)> Act;
     const char* Called;
-  } cases[] = {
-      {[](ISelectionChange& N) { N.SelectionChangingBegin(); }, "begin"},
-      {[](ISelectionChange& N) { N.SelectionChanged(); }, "changed"},
-      {[](ISelectionChange& N) { N.BeginModify(); }, nullptr},
-      {[](ISelectionChange& N) { N.EndModify(); }, "modified"},
-      {[](ISelectionChange& N) { N.ItemModified(); }, "modified"},
-      {[&item](ISelectionChange& N) { N.ItemAdded(&item); }, "modified"},
-      {[&item](ISelectionChange& N) { N.ItemDeleted(&item); }, "modified"},
-      {[](ISelectionChange& N) { N.RefreshView(); }, "refresh"},
-      {[](ISelectionChange& N) { N.ResetObjectInspector(); }, "reset"},
-      {[&item](ISelectionChange& N) { N.BindingAdded(&item); }, "modified"},
-      {[&item](ISelectionChange& N) { N.BindingRemoved(&item); }, "modified"},
-      {[](ISelectionChange& N) { N.DesignerClosing(); }, nullptr},
-  };
-  for (ISelectionChange* notifier :
-       {static_cast<ISelectionChange*>(built.get()), static_cast<ISelectionChange*>(chained.get())}) {
-    for (const auto& c : cases) {
-      c.Act(*notifier);
-      EXPECT_EQ(log, c.Called ? TLog{c.Called} : TLog{}) << (c.Called ? c.Called : "none");
+  } cases[] = {{"SelectionChangingBegin", [](ISelectionChange& N) { N.SelectionChangingBegin(); }, "begin"},
+               {"SelectionChanged", [](ISelectionChange& N) { N.SelectionChanged(); }, "changed"},
+               {"BeginModify", [](ISelectionChange& N) { N.BeginModify(); }, nullptr},
+               {"EndModify", [](ISelectionChange& N) { N.EndModify(); }, "modified"},
+               {"ItemModified", [](ISelectionChange& N) { N.ItemModified(); }, "modified"},
+               {"ItemAdded", [&item](ISelectionChange& N) { N.ItemAdded(&item); }, "modified"},
+               {"ItemDeleted", [&item](ISelectionChange& N) { N.ItemDeleted(&item); }, "modified"},
+               {"RefreshView", [](ISelectionChange& N) { N.RefreshView(); }, "refresh"},
+               {"ResetObjectInspector", [](ISelectionChange& N) { N.ResetObjectInspector(); }, "reset"},
+               {"BindingAdded", [&item](ISelectionChange& N) { N.BindingAdded(&item); }, "modified"},
+               {"BindingRemoved", [&item](ISelectionChange& N) { N.BindingRemoved(&item); }, "modified"},
+               {"DesignerClosing", [](ISelectionChange& N) { N.DesignerClosing(); }, nullptr}};
+  const struct {
+    const char* Name;
+    ISelectionChange* Notifier;
+  } notifiers[] = {{"built", built.get()}, {"chained", chained.get()}};
+  Testing::ForEachRow(notifiers, [&](const auto& ANotifier) {
+    Testing::ForEachRow(cases, [&](const auto& c) {
+      c.Act(*ANotifier.Notifier);
+      EXPECT_EQ(log, c.Called ? TLog{c.Called} : TLog{});
       log.clear();
-    }
-  }
+    });
+  });
   for (const auto& c : cases) c.Act(*New<TSelectionChangeNotifier>());
   EXPECT_TRUE(log.empty()) << "an unassigned procedure is skipped";
 }

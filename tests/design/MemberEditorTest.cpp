@@ -70,16 +70,12 @@ protected:
   TRef<TDesigner> FDesigner;
 };
 
-TEST_F(MemberEditorTest, MembersAreCollectedOnceWhateverListComesLater) {
+TEST_F(MemberEditorTest, MembersAreCollectedOnceWhateverListComesLaterAndOnlyFromObjectsThatHaveThem) {
   const TRef<TMemberEditor> editor = Editor("Width");
   const TRef<IMemberInfoList> first = editor->GetMembers(nullptr);
   EXPECT_EQ(first->GetCount(), 2);
-  const TRef<IObjectArrayList> other = New<TObjectArrayList>()->Add(&FLone);
-  EXPECT_TRUE(editor->GetMembers(other) == first);
+  EXPECT_TRUE(editor->GetMembers(New<TObjectArrayList>()->Add(&FLone)) == first);
   EXPECT_EQ(editor->GetFirstMember()->GetName(), "Width");
-}
-
-TEST_F(MemberEditorTest, ObjectsWithoutTheMemberAddNothing) {
   TObject* selection[] = {&FOther, &FFirst};
   FDesigner->SetSelection(selection);
   EXPECT_EQ(Editor("Width")->GetMembers(nullptr)->GetCount(), 1);
@@ -104,20 +100,15 @@ TEST_F(MemberEditorTest, DisplayNameFromTheNameAttribute) {
 }
 
 TEST_F(MemberEditorTest, FunctionParameterStrings) {
-  struct Row {
-    const char* Method;
-    const char* Text;
-  };
-  const Row rows[] = {
-      {"Reset", "()"},
-      {"Join", "(ACount: Integer; ASeparator: string) : string"},
-      {"Measure", "() : Integer"},
-      {"Blind", "(?\?\?)"},
-  };
-  for (const Row& r : rows) {
-    const TRef<TMethodEditor> editor = Editor<TMethodEditor>(r.Method, nullptr, Method(r.Method));
-    EXPECT_EQ(editor->GetFunctionParamString(), r.Text) << r.Method;
-  }
+  const struct {
+    const char *Name, *Method, *Text;
+  } rows[] = {{"a procedure without parameters", "Reset", "()"},
+              {"a function with named parameters", "Join", "(ACount: Integer; ASeparator: string) : string"},
+              {"a function without parameters", "Measure", "() : Integer"},
+              {"parameters without names", "Blind", "(?\?\?)"}};
+  Testing::ForEachRow(rows, [this](const auto& r) {
+    EXPECT_EQ(Editor<TMethodEditor>(r.Method, nullptr, Method(r.Method))->GetFunctionParamString(), r.Text);
+  });
 }
 
 TEST_F(MemberEditorTest, StockAnswersAndTheHiddenEditor) {

@@ -10,6 +10,7 @@
 #include "rtl/SysUtils.h"
 #include "runtime/LockItem.h"
 #include "tests/design/EditorTestSupport.h"
+#include "tests/rtl/ExpectError.h"
 
 namespace Tarvo {
 
@@ -271,12 +272,9 @@ TEST_F(SinglePropertyEditorTest, ParentEditorMapsSelectedObjectsToTheirNestedObj
 
 TEST_F(SinglePropertyEditorTest, OwnerObjectUnderAParentThatIsNoPropertyEditorFails) {
   const TRef<TMemberEditor> parent = Editor<TMemberEditor>("Child");
-  try {
-    Editor("Level", nullptr, parent.get())->GetOwnerObject();
-    FAIL() << "no error";
-  } catch (const EInvalidCast& e) {
-    EXPECT_STREQ(e.what(), "Invalid class typecast: the parent editor TMemberEditor is no single property editor");
-  }
+  Testing::ExpectError<EInvalidCast>(
+      [&] { Editor("Level", nullptr, parent.get())->GetOwnerObject(); },
+      "Invalid class typecast: the parent editor TMemberEditor is no single property editor");
 }
 
 // ---- Writing ----
@@ -295,12 +293,7 @@ TEST_F(SinglePropertyEditorTest, RefreshingMemberOnTwoObjectsModifiesOnceThenRes
 
 TEST_F(SinglePropertyEditorTest, SetterExceptionPassesThroughAndLeavesEarlierObjectsWritten) {
   FSecond.FRefuse = true;
-  try {
-    Editor("Guarded")->SetInstanceValues(6);
-    FAIL() << "no error";
-  } catch (const EDesignPropertyError& e) {
-    EXPECT_STREQ(e.what(), "Second refuses 6");
-  }
+  Testing::ExpectError<EDesignPropertyError>([&] { Editor("Guarded")->SetInstanceValues(6); }, "Second refuses 6");
   EXPECT_EQ(FFirst.FGuarded, 6);
   EXPECT_EQ(FThird.FGuarded, 0);
   EXPECT_EQ(GSpeLog, TLog{"changed First"});
@@ -337,33 +330,31 @@ TEST_F(SinglePropertyEditorTest, OwnerBoundEditorReadsAndWritesOnlyItsOwnObject)
 
 // ---- Text in ----
 
-TEST_F(SinglePropertyEditorTest, TextOutsideAFixedListIsDroppedSilently) {
-  const TRef<TSpeListEditor> editor = Editor<TSpeListEditor>("Mode");
-  EXPECT_NO_THROW(editor->SetStringValue("Medium"));
-  EXPECT_EQ(FFirst.FMode, "Fast");
-  EXPECT_TRUE(GSpeLog.empty());
-  editor->SetStringValue("Slow");
-  EXPECT_EQ(FThird.FMode, "Slow");
-  // The list closes only a member that says so.
-  Editor<TSpeListEditor>("Label")->SetStringValue("Medium");
-  EXPECT_EQ(FSecond.FLabel, "Medium");
-}
-
-TEST_F(SinglePropertyEditorTest, TextIsConvertedIntoTheFirstValuesType) {
+// Text is converted into the first value's type. Text the type or a closed list refuses is dropped
+// silently; text the converter raises on resets the value to its default.
+TEST_F(SinglePropertyEditorTest, TextIsConvertedDroppedOrResets) {
   const TRef<TSinglePropertyEditor> editor = Editor("Level");
   editor->SetStringValue("42");
   EXPECT_EQ((std::vector<Integer>{FFirst.FLevel, FSecond.FLevel, FThird.FLevel}), (std::vector<Integer>{42, 42, 42}));
   EXPECT_EQ(GSpeLog.back(), "Modified");
-
   GSpeLog.clear();
   editor->SetStringValue("forty");
   EXPECT_EQ(FFirst.FLevel, 42);
   EXPECT_TRUE(GSpeLog.empty());
-}
 
-TEST_F(SinglePropertyEditorTest, TextTheConverterRaisesOnResetsToTheDefault) {
+  const TRef<TSpeListEditor> list = Editor<TSpeListEditor>("Mode");
+  EXPECT_NO_THROW(list->SetStringValue("Medium"));
+  EXPECT_EQ(FFirst.FMode, "Fast");
+  EXPECT_TRUE(GSpeLog.empty());
+  list->SetStringValue("Slow");
+  EXPECT_EQ(FThird.FMode, "Slow");
+  // The list closes only a member that says so.
+  Editor<TSpeListEditor>("Label")->SetStringValue("Medium");
+  EXPECT_EQ(FSecond.FLabel, "Medium");
+
   TSpeGadget child{"Child"};
   FFirst.FChild = FSecond.FChild = FThird.FChild = &child;
+  GSpeLog.clear();
   Editor("Child")->SetStringValue("Child");
   EXPECT_EQ(FFirst.FChild, nullptr);
   EXPECT_EQ(FThird.FChild, nullptr);
@@ -388,31 +379,27 @@ TEST_F(SinglePropertyEditorTest, DefaultsPerObject) {
 }
 
 TEST_F(SinglePropertyEditorTest, AccessAndDefaultFlagsOfMembers) {
-  struct Row {
-    const char* Member;
+  const auto of = [this](const char* AMember) { return Editor(AMember, nullptr, nullptr, Member(AMember)); };
+  // A set element's own answers are all "no": the editor asks its property instead.
+  const auto element = [this](const char* AOf) {
+    return Editor("Element", nullptr, nullptr, New<TSpeSetElement>(Member(AOf)));
+  };
+  const struct {
+    const char* Name;
+    TRef<TSinglePropertyEditor> Editor;
     bool ReadOnly, WriteOnly, HasDefault;
-  };
-  const Row rows[] = {
-      {"Level", false, false, true},
-      {"Count", true, false, false},
-      {"Sink", false, true, false},
-      {"Memo", true, true, false}, // a field is no single property
-  };
-  for (const Row& r : rows) {
-    const TRef<TSinglePropertyEditor> editor = Editor(r.Member, nullptr, nullptr, Member(r.Member));
-    EXPECT_EQ(editor->GetIsReadOnly(), r.ReadOnly) << r.Member;
-    EXPECT_EQ(editor->GetIsWriteOnly(), r.WriteOnly) << r.Member;
-    EXPECT_EQ(editor->GetHasDefault(), r.HasDefault) << r.Member;
-  }
-  EXPECT_TRUE(Editor<TSpeLockedEditor>("Level")->GetIsReadOnly());
-}
-
-TEST_F(SinglePropertyEditorTest, SetElementAnswersForItsProperty) {
-  const TRef<TSinglePropertyEditor> level = Editor("Element", nullptr, nullptr, New<TSpeSetElement>(Member("Level")));
-  EXPECT_FALSE(level->GetIsReadOnly());
-  EXPECT_FALSE(level->GetIsWriteOnly());
-  EXPECT_TRUE(level->GetHasDefault());
-  EXPECT_TRUE(Editor("Element", nullptr, nullptr, New<TSpeSetElement>(Member("Count")))->GetIsReadOnly());
+  } rows[] = {{"a property with a default", of("Level"), false, false, true},
+              {"a property without a setter", of("Count"), true, false, false},
+              {"a property without a getter", of("Sink"), false, true, false},
+              {"a field is no single property", of("Memo"), true, true, false},
+              {"an editor whose type is read-only", Editor<TSpeLockedEditor>("Level"), true, false, true},
+              {"a set element of a property with a default", element("Level"), false, false, true},
+              {"a set element of a property without a setter", element("Count"), true, false, false}};
+  Testing::ForEachRow(rows, [](const auto& ARow) {
+    EXPECT_EQ(ARow.Editor->GetIsReadOnly(), ARow.ReadOnly);
+    EXPECT_EQ(ARow.Editor->GetIsWriteOnly(), ARow.WriteOnly);
+    EXPECT_EQ(ARow.Editor->GetHasDefault(), ARow.HasDefault);
+  });
 }
 
 // ---- Summary in the parent row ----

@@ -9,6 +9,7 @@
 #include "FormTestSupport.h"
 #include "forms/ColorInplaceForm.h"
 #include "platform/ControlColor.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 namespace {
@@ -26,15 +27,21 @@ TEST(ColorInplaceFormTest, LaysTheWheelAndBarsOut) {
   std::string captions;
   for (auto* label : alpha.findChildren<QLabel*>()) captions += label->text().toStdString();
   EXPECT_EQ(captions, "RGBA");
-  const std::vector<QSlider*> bars = {alpha.TrackBarRed, alpha.TrackBarGreen, alpha.TrackBarBlue, alpha.TrackBarAlpha};
-  for (std::size_t i = 0; i < bars.size(); ++i) {
-    EXPECT_GE(bars[i]->x(), 53);
-    EXPECT_EQ(bars[i]->tickPosition(), QSlider::NoTicks);
-    EXPECT_EQ(bars[i]->style()->pixelMetric(QStyle::PM_SliderLength, nullptr, bars[i]), 15);
-    if (i > 0) {
-      EXPECT_LE(bars[i - 1]->geometry().bottom(), bars[i]->y());
+  const struct {
+    const char* Name;
+    QSlider *Bar, *Above;
+  } bars[] = {{"red", alpha.TrackBarRed, nullptr},
+              {"green", alpha.TrackBarGreen, alpha.TrackBarRed},
+              {"blue", alpha.TrackBarBlue, alpha.TrackBarGreen},
+              {"alpha", alpha.TrackBarAlpha, alpha.TrackBarBlue}};
+  ForEachRow(bars, [](const auto& ARow) {
+    EXPECT_GE(ARow.Bar->x(), 53);
+    EXPECT_EQ(ARow.Bar->tickPosition(), QSlider::NoTicks);
+    EXPECT_EQ(ARow.Bar->style()->pixelMetric(QStyle::PM_SliderLength, nullptr, ARow.Bar), 15);
+    if (ARow.Above) {
+      EXPECT_LE(ARow.Above->geometry().bottom(), ARow.Bar->y());
     }
-  }
+  });
 }
 
 // A colour set from outside fires nothing; one the user sets on a bar fires once and turns the
@@ -75,20 +82,22 @@ TEST(ColorInplaceFormTest, OnlyTheUsersColourFires) {
 }
 
 TEST(ColorInplaceFormTest, TheWheelTakesTheHueOfTheColour) {
-  const std::pair<TColor, Single> cases[] = {
-      {0x00FFFF, 1},
-      {0x00FF00, 2},
-      {0xFFFF00, 3},
-      {0xFF0000, 4},
-      {0xFF00FF, 5},
-      {0x0080FF, 128.0f / 255},     // orange
-      {0x8000FF, 6 - 128.0f / 255}, // a red leaning to blue wraps round
-  };
-  for (const auto& [color, sixths] : cases) {
+  const struct {
+    const char* Name;
+    TColor Color;
+    Single Sixths;
+  } cases[] = {{"yellow", 0x00FFFF, 1},
+               {"green", 0x00FF00, 2},
+               {"cyan", 0xFFFF00, 3},
+               {"blue", 0xFF0000, 4},
+               {"magenta", 0xFF00FF, 5},
+               {"orange", 0x0080FF, 128.0f / 255},
+               {"a red leaning to blue wraps round", 0x8000FF, 6 - 128.0f / 255}};
+  ForEachRow(cases, [](const auto& ACase) {
     TColorInplaceForm form;
-    form.SetColor(color);
-    EXPECT_NEAR(form.HBHSVWheel->GetHue(), sixths / 6, 1e-6) << std::hex << color;
-  }
+    form.SetColor(ACase.Color);
+    EXPECT_NEAR(form.HBHSVWheel->GetHue(), ACase.Sixths / 6, 1e-6);
+  });
 }
 
 // The value follows the least channel; black and grey have no hue and leave the wheel's.
@@ -127,10 +136,14 @@ TEST(ColorInplaceFormTest, BarsFollowTheFormsColour) {
   TColorInplaceForm form;
   SetControlColor(&form, clHighlight);
   SetControlColor(&form, 0x102030);
-  for (QSlider* bar : {form.TrackBarRed, form.TrackBarGreen, form.TrackBarBlue}) {
-    EXPECT_EQ(GetControlColor(bar), 0x102030);
-    EXPECT_EQ(bar->palette().color(QPalette::Window), QColor(0x30, 0x20, 0x10));
-  }
+  const struct {
+    const char* Name;
+    QSlider* Bar;
+  } bars[] = {{"red", form.TrackBarRed}, {"green", form.TrackBarGreen}, {"blue", form.TrackBarBlue}};
+  ForEachRow(bars, [](const auto& ARow) {
+    EXPECT_EQ(GetControlColor(ARow.Bar), 0x102030);
+    EXPECT_EQ(ARow.Bar->palette().color(QPalette::Window), QColor(0x30, 0x20, 0x10));
+  });
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 
 #include "forms/EnumCanvasInplaceForm.h"
 #include "platform/GXImages.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 namespace {
@@ -35,32 +36,31 @@ TEST(EnumCanvasInplaceFormTest, AddButtonChainsPictureButtons) {
 // form takes the rows' height; a shown form flows again as it is resized.
 TEST(EnumCanvasInplaceFormTest, TheStripFlowsIntoRightAlignedRows) {
   const struct {
+    const char* Name;
     int Width, Count;
     TPlaces Places;
     int Height;
-  } cases[] = {
-      {200, 5, {{75, 2}, {100, 2}, {125, 2}, {150, 2}, {175, 2}}, 25}, // 127 of 200 used
-      {127, 5, {{2, 2}, {27, 2}, {52, 2}, {77, 2}, {102, 2}}, 25},     // exactly room for all
-      {100, 5, {{2, 2}, {27, 2}, {52, 2}, {2, 25}, {27, 25}}, 48},
-      {60, 5, {{2, 2}, {27, 2}, {2, 25}, {27, 25}, {2, 48}}, 71},
-      {10, 3, {{2, 2}, {2, 25}, {2, 48}}, 71},
-      {200, 0, {}, 25},
-  };
+  } cases[] = {{"room to spare", 200, 5, {{75, 2}, {100, 2}, {125, 2}, {150, 2}, {175, 2}}, 25}, // 127 of 200 used
+               {"exactly room for all", 127, 5, {{2, 2}, {27, 2}, {52, 2}, {77, 2}, {102, 2}}, 25},
+               {"two rows", 100, 5, {{2, 2}, {27, 2}, {52, 2}, {2, 25}, {27, 25}}, 48},
+               {"three rows", 60, 5, {{2, 2}, {27, 2}, {2, 25}, {27, 25}, {2, 48}}, 71},
+               {"narrower than a button", 10, 3, {{2, 2}, {2, 25}, {2, 48}}, 71},
+               {"no buttons", 200, 0, {}, 25}};
   TEnumCanvasInplaceForm shown;
   for (int i = 0; i < 5; ++i) shown.AddButton(New<TIGXBitmap>(18, 16), "", false, i, 18);
   shown.show();
-  for (const auto& c : cases) {
+  Testing::ForEachRow(cases, [&](const auto& c) {
     TEnumCanvasInplaceForm form;
     for (int i = 0; i < c.Count; ++i) form.AddButton(New<TIGXBitmap>(18, 16), "", false, i, 18);
     form.resize(c.Width, 10);
     form.ArrangeButtons();
-    EXPECT_EQ(Places(form), c.Places) << c.Width << " wide, " << c.Count << " buttons";
-    EXPECT_EQ(form.height(), c.Height) << c.Width << " wide, " << c.Count << " buttons";
-    if (c.Count != 5) continue;
+    EXPECT_EQ(Places(form), c.Places);
+    EXPECT_EQ(form.height(), c.Height);
+    if (c.Count != 5) return;
     shown.resize(c.Width, shown.height());
-    EXPECT_EQ(Places(shown), c.Places) << "shown, " << c.Width << " wide";
-    EXPECT_EQ(shown.height(), c.Height) << "shown, " << c.Width << " wide";
-  }
+    EXPECT_EQ(Places(shown), c.Places) << "shown";
+    EXPECT_EQ(shown.height(), c.Height) << "shown";
+  });
 }
 
 // One button stays down; selecting a value presses its button without a click.

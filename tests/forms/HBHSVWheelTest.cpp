@@ -5,6 +5,7 @@
 
 #include "FormTestSupport.h"
 #include "forms/HBHSVWheel.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 namespace {
@@ -14,30 +15,39 @@ using namespace Testing;
 // The hue passes through; black is black whatever the saturation, and beyond full counts as full.
 TEST(HBHSVWheelTest, HSVToHSLTable) {
   const struct {
+    const char* Name;
     Single S, V, ExpectedS, ExpectedL;
-  } cases[] = {{1, 1, 1, 0.5f}, {0, 1, 0, 1}, {0.7f, 0, 0, 0}, {0.5f, 0.8f, 0.5f, 0.6f}, {360, 1, 1, 0.5f}};
-  for (const auto& c : cases) {
+  } cases[] = {{"full", 1, 1, 1, 0.5f},
+               {"white", 0, 1, 0, 1},
+               {"black", 0.7f, 0, 0, 0},
+               {"shade", 0.5f, 0.8f, 0.5f, 0.6f},
+               {"beyond full", 360, 1, 1, 0.5f}};
+  ForEachRow(cases, [](const auto& c) {
     Single h, s, l;
     HBHSVToHSL(123, c.S, c.V, h, s, l);
     EXPECT_EQ(h, 123);
-    EXPECT_NEAR(s, c.ExpectedS, 1e-6) << c.S << " " << c.V;
-    EXPECT_NEAR(l, c.ExpectedL, 1e-6) << c.S << " " << c.V;
-  }
+    EXPECT_NEAR(s, c.ExpectedS, 1e-6);
+    EXPECT_NEAR(l, c.ExpectedL, 1e-6);
+  });
 }
 
 // Hues of any turn, greys and shades.
 TEST(HBHSVWheelTest, HSLToRGBTable) {
   const struct {
+    const char* Name;
     Single H, S, L;
     int RGB;
-  } cases[] = {{0, 1, 0.5f, 0xFF0000},   {60, 1, 0.5f, 0xFFFF00},   {120, 1, 0.5f, 0x00FF00}, {180, 1, 0.5f, 0x00FFFF},
-               {240, 1, 0.5f, 0x0000FF}, {300, 1, 0.5f, 0xFF00FF},  {90, 1, 0.5f, 0x80FF00},  {0, 0, 0.5f, 0x808080},
-               {200, 1, 1, 0xFFFFFF},    {-120, 1, 0.5f, 0x0000FF}, {480, 1, 0.5f, 0x00FF00}, {0, 1, 0.25f, 0x800000}};
-  for (const auto& c : cases) {
+  } cases[] = {{"red", 0, 1, 0.5f, 0xFF0000},           {"yellow", 60, 1, 0.5f, 0xFFFF00},
+               {"green", 120, 1, 0.5f, 0x00FF00},       {"cyan", 180, 1, 0.5f, 0x00FFFF},
+               {"blue", 240, 1, 0.5f, 0x0000FF},        {"magenta", 300, 1, 0.5f, 0xFF00FF},
+               {"lime", 90, 1, 0.5f, 0x80FF00},         {"grey", 0, 0, 0.5f, 0x808080},
+               {"white", 200, 1, 1, 0xFFFFFF},          {"turned back", -120, 1, 0.5f, 0x0000FF},
+               {"over a turn", 480, 1, 0.5f, 0x00FF00}, {"dark red", 0, 1, 0.25f, 0x800000}};
+  ForEachRow(cases, [](const auto& c) {
     Byte r, g, b;
     HBHSLToRGB(c.H, c.S, c.L, r, g, b);
-    EXPECT_EQ(r << 16 | g << 8 | b, c.RGB) << c.H << " " << c.S << " " << c.L;
-  }
+    EXPECT_EQ(r << 16 | g << 8 | b, c.RGB);
+  });
 }
 
 TEST(HBHSVWheelTest, PicksHueByAngleAndSaturationByDistance) {
@@ -48,16 +58,18 @@ TEST(HBHSVWheelTest, PicksHueByAngleAndSaturationByDistance) {
   wheel.OnChange = [&] { ++changes; };
   wheel.OnMouseDown = [&] { mouse.push_back("down " + std::to_string(wheel.GetHue())); };
   wheel.OnMouseUp = [&] { mouse.push_back("up"); };
-  // Straight up, left halfway out, and below beyond the rim.
   const struct {
+    const char* Name;
     QPointF At;
     Single Hue, Saturation;
-  } picks[] = {{{26.5, 1.5}, 0.25f, 1}, {{14, 26.5}, 0.5f, 0.5f}, {{26.5, 80}, 0.75f, 1}};
-  for (const auto& pick : picks) {
+  } picks[] = {{"straight up", {26.5, 1.5}, 0.25f, 1},
+               {"left halfway out", {14, 26.5}, 0.5f, 0.5f},
+               {"below beyond the rim", {26.5, 80}, 0.75f, 1}};
+  ForEachRow(picks, [&](const auto& pick) {
     Click(&wheel, pick.At);
     EXPECT_FLOAT_EQ(wheel.GetHue(), pick.Hue);
     EXPECT_FLOAT_EQ(wheel.GetSaturation(), pick.Saturation);
-  }
+  });
   EXPECT_EQ(changes, 3); // hue and saturation together
   // The wheel picks before it reports the press.
   const auto down = [](Single AHue) { return "down " + std::to_string(AHue); };

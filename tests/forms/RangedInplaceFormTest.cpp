@@ -7,6 +7,7 @@
 
 #include "FormTestSupport.h"
 #include "forms/RangedInplaceForm.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 namespace {
@@ -29,31 +30,35 @@ int PositionOf(Int64 AValue, Int64 AMin, Int64 AMax) {
 
 TEST(NumericInplaceFormTest, PositionTable) {
   const struct {
+    const char* Name;
     Int64 Value, Min, Max;
     int Position;
-  } cases[] = {
-      {500, 0, 1000, 2048},
-      {333, 0, 1000, 1364},       // 1363.97
-      {0, -100, 100, 2048},       // a new form places even a value of 0
-      {1, 0, 8192, 0},            // 0.5 rounds to even
-      {3, 0, 8192, 2},            // 1.5 rounds to even
-      {250000, 0, 1000000, 1024}, // in quarters from a span of 100000 on
-      {0, Int64Min, Int64Max, 2048},
-      {Int64Min, Int64Min, Int64Max, 0},
-      {Int64(1) << 31, 0, 4294967295, 2048},
-      {-5, 0, 1000, 0}, // outside the range: the bar's ends
-      {5000, 0, 1000, 4095},
-      {1000, 0, 1000, 4095}, // the last step stops one short of the end
-      {7, 5, 5, 0},          // an empty range
-  };
-  for (const auto& c : cases)
-    EXPECT_EQ(PositionOf(c.Value, c.Min, c.Max), c.Position) << c.Value << " in " << c.Min << ".." << c.Max;
+  } cases[] = {{"the middle", 500, 0, 1000, 2048},
+               {"rounded to the nearest", 333, 0, 1000, 1364}, // 1363.97
+               {"zero in a new form", 0, -100, 100, 2048},
+               {"a half rounds to even, down", 1, 0, 8192, 0},
+               {"a half rounds to even, up", 3, 0, 8192, 2},
+               {"in quarters from a span of 100000 on", 250000, 0, 1000000, 1024},
+               {"the middle of the full range", 0, Int64Min, Int64Max, 2048},
+               {"the start of the full range", Int64Min, Int64Min, Int64Max, 0},
+               {"the middle of the unsigned 32-bit range", Int64(1) << 31, 0, 4294967295, 2048},
+               {"below the range", -5, 0, 1000, 0},
+               {"above the range", 5000, 0, 1000, 4095},
+               {"the last step stops one short of the end", 1000, 0, 1000, 4095},
+               {"an empty range", 7, 5, 5, 0}};
+  ForEachRow(cases, [](const auto& c) { EXPECT_EQ(PositionOf(c.Value, c.Min, c.Max), c.Position); });
   // Worked out in quarters, wide ranges land on multiples of four only.
-  for (auto [min, max] : {std::pair{Int64(0), Int64(100000)}, {-3, 99997}, {-50000, 12345678}, {Int64Min, Int64Max}})
+  const struct {
+    const char* Name;
+    Int64 Min, Max;
+  } wide[] = {
+      {"from zero", 0, 100000}, {"across zero", -3, 99997}, {"long", -50000, 12345678}, {"full", Int64Min, Int64Max}};
+  ForEachRow(wide, [](const auto& ARange) {
     for (int i = 0; i < 200; ++i) {
-      const Int64 value = Int64((long double)min + ((long double)max - min) * i / 200.0L);
-      EXPECT_EQ(PositionOf(value, min, max) % 4, 0) << value << " in " << min << ".." << max;
+      const Int64 value = Int64((long double)ARange.Min + ((long double)ARange.Max - ARange.Min) * i / 200.0L);
+      EXPECT_EQ(PositionOf(value, ARange.Min, ARange.Max) % 4, 0) << value;
     }
+  });
 }
 
 // A value from the editor fires nothing, nor moves the bar when the form holds it already; the

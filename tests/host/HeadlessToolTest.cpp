@@ -10,6 +10,7 @@
 #include <sstream>
 
 #include "rtl/Types.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 namespace {
@@ -77,26 +78,26 @@ TEST(HeadlessToolTest, BadInputIsOneClearMessageWithExitCodeTwoAndNothingPrinted
   std::ofstream(design)
       << R"({"components": [{"class": "TSignalGenerator", "name": "G", "properties": {"Pitch": "1"}}]})";
   const struct {
+    const char* Name;
     String Arguments;
     String Message;
   } cases[] = {
-      {"--frob", "unknown option \"--frob\" (see --help)"},
-      {"--select", "--select expects an argument"},
-      {"--select A,,B", "--select expects component names separated by \",\""},
-      {"--set Frequency", "--set expects PATH=TEXT, not \"Frequency\""},
-      {"--select Nobody", "no component named \"Nobody\" in the design"},
-      {"--set Bogus=1", "no row \"Bogus\""},
-      {"--set PeakToPeak=3", "row \"PeakToPeak\" is read-only"},
-      {"--expand Frequency", "row \"Frequency\" does not expand"},
-      {"--set Frequency=-5", "Frequency must not be negative: -5"},
-      {"--design " + design, design + ": Unknown property 'Pitch' of component 'G' (TSignalGenerator)"},
-  };
-  for (const auto& bad : cases) {
+      {"unknown option", "--frob", "unknown option \"--frob\" (see --help)"},
+      {"missing argument", "--select", "--select expects an argument"},
+      {"empty name in a list", "--select A,,B", "--select expects component names separated by \",\""},
+      {"assignment without a value", "--set Frequency", "--set expects PATH=TEXT, not \"Frequency\""},
+      {"unknown component", "--select Nobody", "no component named \"Nobody\" in the design"},
+      {"unknown row", "--set Bogus=1", "no row \"Bogus\""},
+      {"read-only row", "--set PeakToPeak=3", "row \"PeakToPeak\" is read-only"},
+      {"row that does not expand", "--expand Frequency", "row \"Frequency\" does not expand"},
+      {"value the setter refuses", "--set Frequency=-5", "Frequency must not be negative: -5"},
+      {"bad design", "--design " + design, design + ": Unknown property 'Pitch' of component 'G' (TSignalGenerator)"}};
+  Testing::ForEachRow(cases, [](const auto& bad) {
     const TToolRun run = RunTool(bad.Arguments);
-    EXPECT_EQ(run.ExitCode, 2) << bad.Arguments;
-    EXPECT_EQ(run.Err, "error: " + bad.Message + "\n") << bad.Arguments;
-    EXPECT_EQ(run.Out, "") << bad.Arguments;
-  }
+    EXPECT_EQ(run.ExitCode, 2);
+    EXPECT_EQ(run.Err, "error: " + bad.Message + "\n");
+    EXPECT_EQ(run.Out, "");
+  });
 }
 
 } // namespace

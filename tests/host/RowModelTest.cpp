@@ -12,6 +12,7 @@
 #include "rtl/Module.h"
 #include "runtime/DesignFile.h"
 #include "runtime/Graphics.h"
+#include "tests/rtl/ExpectError.h"
 
 namespace Tarvo {
 
@@ -93,7 +94,7 @@ TEST_F(RowModelTest, RowsAreTheMembersThePackageGivesAVisibleEditorSortedByName)
   EXPECT_TRUE(FInspector.Find("PeakToPeak").ReadOnly);
 }
 
-TEST_F(RowModelTest, SeveralObjectsShowOneTextWhenTheyAgreeAndAllTextsWhenNot) {
+TEST_F(RowModelTest, SeveralObjectsShareTheRowsTheyAllHaveAndShowOneTextWhenTheyAgree) {
   Select({"Generator1", "Generator2"});
   EXPECT_EQ(FInspector.Find("Frequency").Value, "440;1000");
   EXPECT_FALSE(FInspector.Find("Frequency").IsDefault);
@@ -107,9 +108,8 @@ TEST_F(RowModelTest, SeveralObjectsShowOneTextWhenTheyAgreeAndAllTextsWhenNot) {
   FInspector.Refresh();
   EXPECT_EQ(FInspector.Find("Frequency").Value, "440");
   EXPECT_TRUE(FInspector.Find("Frequency").IsDefault);
-}
 
-TEST_F(RowModelTest, OnlyMembersThatEverySelectedObjectHasGetRows) {
+  // Only members that every selected object has get rows.
   Select({"Generator1", "Filter1"});
   EXPECT_TRUE(HasRow("Name"));
   EXPECT_FALSE(HasRow("Frequency"));
@@ -118,20 +118,14 @@ TEST_F(RowModelTest, OnlyMembersThatEverySelectedObjectHasGetRows) {
 
 TEST_F(RowModelTest, BadPathsAndReadOnlyRowsAreRefusedByName) {
   Select({"Generator1"});
-  const auto message = [&](auto AAction) -> String {
-    try {
-      AAction();
-    } catch (const EInspectError& error) {
-      return error.Message();
-    }
-    return "no error";
-  };
-  EXPECT_EQ(message([&] { FInspector.SetValue("Bogus", "1"); }), "no row \"Bogus\"");
-  EXPECT_EQ(message([&] { FInspector.SetValue("PeakToPeak", "1"); }), "row \"PeakToPeak\" is read-only");
-  EXPECT_EQ(message([&] { FInspector.SetValue("OnStart", "x"); }), "row \"OnStart\" has no value");
-  EXPECT_EQ(message([&] { FInspector.Find("Frequency.Size"); }),
-            "no row \"Frequency.Size\": \"Frequency\" does not expand");
-  EXPECT_EQ(message([&] { FInspector.Expand(FInspector.Find("Frequency")); }), "row \"Frequency\" does not expand");
+  using Testing::ExpectError;
+  ExpectError<EInspectError>([&] { FInspector.SetValue("Bogus", "1"); }, "no row \"Bogus\"");
+  ExpectError<EInspectError>([&] { FInspector.SetValue("PeakToPeak", "1"); }, "row \"PeakToPeak\" is read-only");
+  ExpectError<EInspectError>([&] { FInspector.SetValue("OnStart", "x"); }, "row \"OnStart\" has no value");
+  ExpectError<EInspectError>([&] { FInspector.Find("Frequency.Size"); },
+                             "no row \"Frequency.Size\": \"Frequency\" does not expand");
+  ExpectError<EInspectError>([&] { FInspector.Expand(FInspector.Find("Frequency")); },
+                             "row \"Frequency\" does not expand");
 }
 
 TEST_F(RowModelTest, AnExpandingEditorGivesSubRowsThatWriteToTheValuesOfEverySelectedObject) {

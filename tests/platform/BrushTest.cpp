@@ -125,8 +125,8 @@ TEST(LinearGradientTest, ModesRunAcrossTheRectangle) {
                {"backward diagonal", lgmBackwardDiagonal, {Purple, Red, Blue, Purple}}};
   ForEachRow(cases, [&](const auto& ACase) {
     const QImage image = FillWith(New<TIGXLinearGradientBrush>(TIGXRect(0, 0, 64, 16), Red, Blue, ACase.Mode), 64, 16);
-    for (std::size_t i = 0; i < corners.size(); ++i)
-      EXPECT_TRUE(PixelNear(image, corners[i].first, corners[i].second, ACase.Colours[i], 10)) << "corner " << i;
+    for (std::size_t i = 0; i < corners.size(); ++i) // the pixel names its corner
+      EXPECT_TRUE(PixelNear(image, corners[i].first, corners[i].second, ACase.Colours[i], 10));
   });
 }
 
@@ -171,16 +171,20 @@ TEST(LinearGradientTest, InvalidBlendsAreRefusedWithTheReason) {
       EXPECT_NE(std::string(e.what()).find(AReason), std::string::npos) << e.what();
     }
   };
-  const std::pair<std::vector<Single>, const char*> cases[] = {{{0.1f, 0.5f, 1}, "first position must be 0"},
-                                                               {{0, 0.5f, 0.9f}, "last position must be 1"},
-                                                               {{0, 1.5f, 1}, "positions must ascend"},
-                                                               {{0, 0.7f, 0.3f, 1}, "as many positions"},
-                                                               {{0, 1}, "as many positions"},
-                                                               {{0}, "at least two positions"}};
-  for (const auto& [positions, reason] : cases) {
-    expectRefused(reason, [&] { brush->SetBlend({0, 0.5f, 1}, positions); });
-    expectRefused(reason, [&] { brush->SetInterpolationColors({Red, Green, Blue}, positions); });
-  }
+  const struct {
+    const char* Name;
+    std::vector<Single> Positions;
+    const char* Reason;
+  } cases[] = {{"late start", {0.1f, 0.5f, 1}, "first position must be 0"},
+               {"early end", {0, 0.5f, 0.9f}, "last position must be 1"},
+               {"beyond the end", {0, 1.5f, 1}, "positions must ascend"},
+               {"descending, one too many", {0, 0.7f, 0.3f, 1}, "as many positions"},
+               {"one too few", {0, 1}, "as many positions"},
+               {"a single position", {0}, "at least two positions"}};
+  ForEachRow(cases, [&](const auto& ACase) {
+    expectRefused(ACase.Reason, [&] { brush->SetBlend({0, 0.5f, 1}, ACase.Positions); });
+    expectRefused(ACase.Reason, [&] { brush->SetInterpolationColors({Red, Green, Blue}, ACase.Positions); });
+  });
   expectRefused("factors must lie between 0 and 1", [&] { brush->SetBlend({0, 1.5f, 1}, {0, 0.5f, 1}); });
 }
 

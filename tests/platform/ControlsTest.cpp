@@ -7,6 +7,7 @@
 
 #include "platform/ControlColor.h"
 #include "platform/QueryControls.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 namespace {
@@ -35,25 +36,24 @@ private:
 // no part for reads black. TColor keeps red in its low byte, ARGB in its third.
 TEST_F(ColorTest, ResolvesSystemColoursAndSwapsTheChannelsForARGB) {
   const struct {
+    const char* Name;
     TColor Color, RGB;
     TAlphaColor ARGB;
-  } table[] = {
-      {clWindow, 0x302010, 0xFF102030u},
-      {clWindowText, 0x312111, 0xFF112131u},
-      {clHighlight, 0x322212, 0xFF122232u},
-      {clHighlightText, 0x332313, 0xFF132333u},
-      {clBtnFace, 0x342414, 0xFF142434u},
-      {SystemColor(scBtnText), 0x352515, 0xFF152535u},
-      {SystemColor(scGrayText), 0x362616, 0xFF162636u},
-      {SystemColor(scInfoBackground), 0x372717, 0xFF172737u},
-      {0x00336699, 0x00336699, 0xFF996633u},
-      {TColor(0xFF000019u), 0, 0xFF000000u},
-      {TColor(0xFF0000FEu), 0, 0xFF000000u},
-  };
-  for (const auto& row : table) {
-    EXPECT_EQ(ColorToRGB(row.Color), row.RGB) << std::hex << row.Color;
-    EXPECT_EQ(MakeColor(row.Color), row.ARGB) << std::hex << row.Color;
-  }
+  } table[] = {{"window", clWindow, 0x302010, 0xFF102030u},
+               {"window text", clWindowText, 0x312111, 0xFF112131u},
+               {"highlight", clHighlight, 0x322212, 0xFF122232u},
+               {"highlighted text", clHighlightText, 0x332313, 0xFF132333u},
+               {"button face", clBtnFace, 0x342414, 0xFF142434u},
+               {"button text", SystemColor(scBtnText), 0x352515, 0xFF152535u},
+               {"grey text, disabled", SystemColor(scGrayText), 0x362616, 0xFF162636u},
+               {"tooltip background", SystemColor(scInfoBackground), 0x372717, 0xFF172737u},
+               {"a plain colour", 0x00336699, 0x00336699, 0xFF996633u},
+               {"an index the palette lacks", TColor(0xFF000019u), 0, 0xFF000000u},
+               {"an index past the palette", TColor(0xFF0000FEu), 0, 0xFF000000u}};
+  Testing::ForEachRow(table, [](const auto& row) {
+    EXPECT_EQ(ColorToRGB(row.Color), row.RGB);
+    EXPECT_EQ(MakeColor(row.Color), row.ARGB);
+  });
   EXPECT_EQ(MakeColor(clWindow, 0x40), 0x40102030u);
   EXPECT_EQ(MakeColor(0x000000FF, 0x80), 0x80FF0000u);
 }

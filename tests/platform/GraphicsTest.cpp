@@ -23,20 +23,21 @@ TEST(GraphicsTest, FillsWholePixelsWhereTheTransformPutsThem) {
 // The painted square runs from First to Last inclusive, Thickness pixels deep; nothing else.
 TEST(GraphicsTest, OutlinesLandOnTheExpectedPixels) {
   const struct {
+    const char* Name;
     TIGXRect Rect;
     Single Width;
     TIGXPenAlignment Alignment;
     int First, Last, Thickness;
   } cases[] = {// Centred at width 1: one pixel more than the rectangle's width.
-               {TIGXRect(2, 2, 5, 5), 1, paCenter, 2, 7, 1},
-               {TIGXRect(2, 2, 8, 8), 1, paCenter, 2, 10, 1},
-               {TIGXRect(2, 2, 8, 8), 2, paCenter, 1, 10, 2},
-               {TIGXRect(2, 2, 8, 8), 3, paCenter, 1, 11, 3},
+               {"centred, width 1, small", TIGXRect(2, 2, 5, 5), 1, paCenter, 2, 7, 1},
+               {"centred, width 1", TIGXRect(2, 2, 8, 8), 1, paCenter, 2, 10, 1},
+               {"centred, width 2", TIGXRect(2, 2, 8, 8), 2, paCenter, 1, 10, 2},
+               {"centred, width 3", TIGXRect(2, 2, 8, 8), 3, paCenter, 1, 11, 3},
                // Inset: within the rectangle's own pixels.
-               {TIGXRect(2, 2, 5, 5), 1, paInset, 2, 6, 1},
-               {TIGXRect(2, 2, 8, 8), 2, paInset, 2, 9, 2},
-               {TIGXRect(2, 2, 8, 8), 3, paInset, 2, 9, 3}};
-  for (const auto& c : cases) {
+               {"inset, width 1, small", TIGXRect(2, 2, 5, 5), 1, paInset, 2, 6, 1},
+               {"inset, width 2", TIGXRect(2, 2, 8, 8), 2, paInset, 2, 9, 2},
+               {"inset, width 3", TIGXRect(2, 2, 8, 8), 3, paInset, 2, 9, 3}};
+  ForEachRow(cases, [](const auto& c) {
     const QImage image = Paint(14, 14, [&](IGXGraphics& AGraphics) {
       const auto pen = New<TIGXPen>(claBlack, c.Width);
       pen->SetAlignment(c.Alignment);
@@ -49,8 +50,8 @@ TEST(GraphicsTest, OutlinesLandOnTheExpectedPixels) {
       for (int x = 0; x < 14; ++x)
         EXPECT_EQ(Pixel(image, x, y) == claBlack,
                   within(x, y, c.First, c.Last) && !within(x, y, c.First + c.Thickness, c.Last - c.Thickness))
-            << "width " << c.Width << ", alignment " << c.Alignment << ", pixel " << x << "," << y;
-  }
+            << "pixel " << x << "," << y;
+  });
 }
 
 // Dash and gap lengths in pen widths, from the line's start.
@@ -86,16 +87,23 @@ TEST(GraphicsTest, DashStylesRepeatTheirPatterns) {
 
 // A right angle of width 6 turning at (10, 10): only the miters reach the outer corner.
 TEST(GraphicsTest, LineJoinsShapeTheOuterCorner) {
-  for (auto [join, cornerPainted] :
-       {std::pair{ljMiter, true}, {ljBevel, false}, {ljRound, false}, {ljMiterClipped, true}}) {
-    const QImage image = Paint(20, 20, [join](IGXGraphics& AGraphics) {
+  const struct {
+    const char* Name;
+    TIGXLineJoin Join;
+    bool CornerPainted;
+  } cases[] = {{"miter", ljMiter, true},
+               {"bevel", ljBevel, false},
+               {"round", ljRound, false},
+               {"clipped miter", ljMiterClipped, true}};
+  ForEachRow(cases, [](const auto& ACase) {
+    const QImage image = Paint(20, 20, [&ACase](IGXGraphics& AGraphics) {
       const auto pen = New<TIGXPen>(claBlack, 6.0f);
-      pen->SetLineJoin(join);
+      pen->SetLineJoin(ACase.Join);
       AGraphics.DrawLines(pen, {{0, 10}, {10, 10}, {10, 20}});
     });
-    EXPECT_EQ(Pixel(image, 12, 7) == claBlack, cornerPainted) << "join " << join;
-    EXPECT_EQ(Pixel(image, 9, 9), claBlack) << "join " << join;
-  }
+    EXPECT_EQ(Pixel(image, 12, 7) == claBlack, ACase.CornerPainted);
+    EXPECT_EQ(Pixel(image, 9, 9), claBlack);
+  });
 }
 
 TEST(GraphicsTest, OnlyHighQualityAndAntiAliasSmooth) {

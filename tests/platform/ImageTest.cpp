@@ -38,10 +38,14 @@ TEST(BitmapTest, NewBitmapIsTransparentAndKeepsItsPixelsWithinItsBounds) {
   EXPECT_EQ(bitmap->GetPixel(2, 1), claNull);
   bitmap->SetPixel(2, 1, 0x80336699u);
   EXPECT_TRUE(Near(bitmap->GetPixel(2, 1), 0x80336699u, 1)) << Hex(bitmap->GetPixel(2, 1));
-  for (auto [x, y] : {std::pair{3, 0}, {0, 2}, {-1, 0}}) {
-    EXPECT_THROW(bitmap->GetPixel(x, y), EArgumentOutOfRangeException);
-    EXPECT_THROW(bitmap->SetPixel(x, y, Red), EArgumentOutOfRangeException);
-  }
+  const struct {
+    const char* Name;
+    int X, Y;
+  } outside[] = {{"right of the last column", 3, 0}, {"below the last row", 0, 2}, {"left of the first column", -1, 0}};
+  ForEachRow(outside, [&](const auto& APoint) {
+    EXPECT_THROW(bitmap->GetPixel(APoint.X, APoint.Y), EArgumentOutOfRangeException);
+    EXPECT_THROW(bitmap->SetPixel(APoint.X, APoint.Y, Red), EArgumentOutOfRangeException);
+  });
   EXPECT_THROW(New<TIGXBitmap>(0, 5), EArgumentOutOfRangeException);
 }
 

@@ -14,7 +14,12 @@ namespace {
 // The handler fills the dialog; closed with the handler's code as by a click, the dialog settles
 // its selection on OK only.
 TEST(ModalSeamTest, HandlerFillsAndClosesTheDialog) {
-  for (int code : {int(QDialog::Accepted), int(QDialog::Rejected)}) {
+  const struct {
+    const char* Name;
+    int Code;
+  } closes[] = {{"accepted", QDialog::Accepted}, {"rejected", QDialog::Rejected}};
+  Testing::ForEachRow(closes, [](const auto& AClose) {
+    const int code = AClose.Code;
     QColorDialog dialog(QColor(Qt::red));
     TModalHandlerScope scope([code](QDialog& ADialog) {
       auto* colorDialog = qobject_cast<QColorDialog*>(&ADialog);
@@ -29,7 +34,7 @@ TEST(ModalSeamTest, HandlerFillsAndClosesTheDialog) {
     if (code == QDialog::Accepted) {
       EXPECT_EQ(dialog.selectedColor(), QColor(10, 20, 30));
     }
-  }
+  });
 }
 
 // Scopes nest and restore the handler before them; a handler may run a nested dialog.

@@ -75,10 +75,14 @@ TEST(DrawStringTest, EllipsisKeepsTheTextInsideItsRectangle) {
 // The centre of the ink, within a few pixels, for each alignment in a 120 by 60 rectangle.
 TEST(DrawStringTest, AlignmentsPlaceTheTextInItsRectangle) {
   const struct {
+    const char* Name;
     TIGXStringAlignment Alignment, LineAlignment;
     int CentreX, CentreY;
-  } cases[] = {{saNear, saNear, 18, 6}, {saCenter, saCenter, 60, 30}, {saFar, saFar, 102, 54}, {saFar, saNear, 102, 6}};
-  for (const auto& c : cases) {
+  } cases[] = {{"top left", saNear, saNear, 18, 6},
+               {"centre", saCenter, saCenter, 60, 30},
+               {"bottom right", saFar, saFar, 102, 54},
+               {"top right", saFar, saNear, 102, 6}};
+  ForEachRow(cases, [](const auto& c) {
     const auto format = New<TIGXStringFormat>();
     format->SetAlignment(c.Alignment);
     format->SetLineAlignment(c.LineAlignment);
@@ -87,9 +91,9 @@ TEST(DrawStringTest, AlignmentsPlaceTheTextInItsRectangle) {
                            New<TIGXSolidBrush>(claBlack));
     }));
     ASSERT_FALSE(ink.isEmpty());
-    EXPECT_NEAR(ink.center().x(), c.CentreX, 12) << c.Alignment << "/" << c.LineAlignment;
-    EXPECT_NEAR(ink.center().y(), c.CentreY, 8) << c.Alignment << "/" << c.LineAlignment;
-  }
+    EXPECT_NEAR(ink.center().x(), c.CentreX, 12);
+    EXPECT_NEAR(ink.center().y(), c.CentreY, 8);
+  });
 }
 
 // The darkest pixel of the first and of the last column of ink: red at the left, blue at the right.

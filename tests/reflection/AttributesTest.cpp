@@ -9,6 +9,7 @@
 #include "reflection/RowAttributes.h"
 #include "reflection/RttiTypes.h"
 #include "reflection/TypeInfo.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 
@@ -80,36 +81,38 @@ String Describe(TCustomAttribute* AAttribute) {
 
 TEST(AttributesTest, TheMembersOwnComeBeforeItsTypesAndDescendantsAnswerForTheirBase) {
   const struct {
-    const char* Member;
+    const char *Name, *Member;
     TClass Class;
     bool Inherited;
     const char* Found;
   } rows[] = {
-      {"Main", NameAttribute::ClassInfo(), true, "NameAttribute Main gauge"},
-      {"Spare", NameAttribute::ClassInfo(), true, "NameAttribute Gauge"},
-      {"Spare", NameAttribute::ClassInfo(), false, ""},
-      {"Main", HideEmptyAttribute::ClassInfo(), true, "HideEmptyAttribute"},
-      {"Height", HideEmptyAttribute::ClassInfo(), true, ""},
-      {"Main", TBasicBooleanAttribute::ClassInfo(), true, "DisplayNestedShortAttribute yes"},
-      {"Spare", TBasicBooleanAttribute::ClassInfo(), true, "HideNestedDefaultAttribute no"},
-      {"Main", DisplayNestedAttribute::ClassInfo(), true, "DisplayNestedAttribute no"},
+      {"the member's own name", "Main", NameAttribute::ClassInfo(), true, "NameAttribute Main gauge"},
+      {"the type's name for a member without one", "Spare", NameAttribute::ClassInfo(), true, "NameAttribute Gauge"},
+      {"no name of the member's own", "Spare", NameAttribute::ClassInfo(), false, ""},
+      {"the type's flag", "Main", HideEmptyAttribute::ClassInfo(), true, "HideEmptyAttribute"},
+      {"no flag on a plain type", "Height", HideEmptyAttribute::ClassInfo(), true, ""},
+      {"the member's own flag answers for the base", "Main", TBasicBooleanAttribute::ClassInfo(), true,
+       "DisplayNestedShortAttribute yes"},
+      {"another flag of the member's own", "Spare", TBasicBooleanAttribute::ClassInfo(), true,
+       "HideNestedDefaultAttribute no"},
+      {"the type's flag of its own class", "Main", DisplayNestedAttribute::ClassInfo(), true,
+       "DisplayNestedAttribute no"},
       // Siblings don't answer for each other.
-      {"Main", HideNestedDefaultAttribute::ClassInfo(), true, ""},
-      {"Spare", DisplayNestedShortAttribute::ClassInfo(), true, ""},
-      {"Height", TBasicBooleanAttribute::ClassInfo(), true, ""},
-      {"Reset", ComponentEditorEntryDesignAttribute::ClassInfo(), true,
+      {"a flag's sibling, on Main", "Main", HideNestedDefaultAttribute::ClassInfo(), true, ""},
+      {"a flag's sibling, on Spare", "Spare", DisplayNestedShortAttribute::ClassInfo(), true, ""},
+      {"no flag at all", "Height", TBasicBooleanAttribute::ClassInfo(), true, ""},
+      {"a menu entry", "Reset", ComponentEditorEntryDesignAttribute::ClassInfo(), true,
        "ComponentEditorEntryDesignAttribute Reset first"},
-      {"Reset", ComponentEditorEntryDesignConfirmationAttribute::ClassInfo(), true,
+      {"its confirmation", "Reset", ComponentEditorEntryDesignConfirmationAttribute::ClassInfo(), true,
        "ComponentEditorEntryDesignConfirmationAttribute Reset all?"},
-      {"Calibrate", ComponentEditorEntryDesignAttribute::ClassInfo(), true,
+      {"an entry that answers for its base", "Calibrate", ComponentEditorEntryDesignAttribute::ClassInfo(), true,
        "ComponentEditorEntryFullRefreshDesignAttribute Calibrate..."},
-      {"Calibrate", ComponentEditorEntryDesignConfirmationAttribute::ClassInfo(), true, ""},
-  };
-  for (const auto& row : rows) {
+      {"no confirmation", "Calibrate", ComponentEditorEntryDesignConfirmationAttribute::ClassInfo(), true, ""}};
+  Testing::ForEachRow(rows, [](const auto& row) {
     TCustomAttribute* found = nullptr;
     EXPECT_EQ(PanelMember(row.Member)->GetCustomAttribute(row.Class, row.Inherited, found), *row.Found != 0);
-    EXPECT_EQ(Describe(found), row.Found) << row.Member << " " << row.Class->ClassName();
-  }
+    EXPECT_EQ(Describe(found), row.Found);
+  });
   // What the design core searches: the member's own, then its type's.
   std::vector<String> access;
   for (TCustomAttribute* attribute : PanelMember("Main")->GetMemberAccessAttributes()->GetCustomAttributes())

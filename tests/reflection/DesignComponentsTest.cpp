@@ -10,6 +10,7 @@
 #include "reflection/RttiTypes.h"
 #include "reflection/TypeInfo.h"
 #include "rtl/Module.h"
+#include "tests/support/NamedRows.h"
 
 // Registrations stay for the life of the process, so each test registers classes of its own.
 #define DESIGN_TEST_CLASS(AClass, AParent)                                                                             \
@@ -150,17 +151,19 @@ TEST(DesignComponentsTest, DynamicElementsByBaseClass) {
   RegisterDynamicElement(lowPass, butterworth);
   RegisterDynamicElement(filter, butterworth);
   RegisterDynamicElement(filter, lowPass);
-  const std::pair<TClass, TClasses> rows[] = {
-      {filter, {lowPass, highPass, butterworth}},
-      // An ancestor's elements that the member can hold, with its own, in registration order.
-      {lowPass, {lowPass, butterworth}},
-      {butterworth, {butterworth}},
-      {highPass, {highPass}},
-      {TDesignTestComponent::ClassInfo(), {}},
-      {nullptr, {}},
-  };
-  for (const auto& [base, expected] : rows)
-    EXPECT_EQ(GetDynamicElementsFor(base)->ToArray(), expected) << (base ? base->ClassName() : "nil");
+  // An ancestor's elements that the member can hold, with its own, in registration order.
+  const struct {
+    const char* Name;
+    TClass Base;
+    TClasses Expected;
+  } rows[] = {{"the base, each once", filter, {lowPass, highPass, butterworth}},
+              {"a descendant", lowPass, {lowPass, butterworth}},
+              {"a descendant's descendant", butterworth, {butterworth}},
+              {"a sibling", highPass, {highPass}},
+              {"an unrelated class", TDesignTestComponent::ClassInfo(), {}},
+              {"nil", nullptr, {}}};
+  Testing::ForEachRow(rows,
+                      [](const auto& ARow) { EXPECT_EQ(GetDynamicElementsFor(ARow.Base)->ToArray(), ARow.Expected); });
   EXPECT_THROW(RegisterDynamicElement(lowPass, highPass), EAssertionFailed);
 }
 

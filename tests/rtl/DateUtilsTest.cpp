@@ -24,25 +24,28 @@ const char* const TimeError = "Invalid argument to time encode";
 // Encodes, decodes, formats and parses back to the second.
 TEST(DateUtilsEncodeTest, RoundTrips) {
   const struct {
+    const char* Name;
     TStamp S;
     TDateTime Serial;
     const char* Text;
-  } rows[] = {{{1899, 12, 30, 0, 0, 0, 0}, 0, "1899-12-30"},
-              {{1899, 12, 29, 6, 0, 0, 0}, -1.25, "1899-12-29 06:00:00"},
-              {{1899, 12, 1, 18, 0, 0, 0}, -29.75, "1899-12-01 18:00:00"},
-              {{2024, 2, 29, 12, 0, 0, 0}, 45351.5, "2024-02-29 12:00:00"},
-              {{2000, 2, 29, 0, 0, 1, 0}, 36585 + 1.0 / 86400, "2000-02-29 00:00:01"},
-              {{1, 1, 1, 0, 0, 0, 0}, -693593, "0001-01-01"},
-              {{9999, 12, 31, 23, 59, 59, 999}, 2958465 + 86399999.0 / 86400000, "9999-12-31 23:59:59"}};
-  for (const auto& r : rows) {
-    SCOPED_TRACE(r.Text);
+  } rows[] = {{"day zero", {1899, 12, 30, 0, 0, 0, 0}, 0, "1899-12-30"},
+              {"the day before day zero", {1899, 12, 29, 6, 0, 0, 0}, -1.25, "1899-12-29 06:00:00"},
+              {"a month before day zero", {1899, 12, 1, 18, 0, 0, 0}, -29.75, "1899-12-01 18:00:00"},
+              {"leap day", {2024, 2, 29, 12, 0, 0, 0}, 45351.5, "2024-02-29 12:00:00"},
+              {"leap day of a century", {2000, 2, 29, 0, 0, 1, 0}, 36585 + 1.0 / 86400, "2000-02-29 00:00:01"},
+              {"the first day", {1, 1, 1, 0, 0, 0, 0}, -693593, "0001-01-01"},
+              {"the last millisecond",
+               {9999, 12, 31, 23, 59, 59, 999},
+               2958465 + 86399999.0 / 86400000,
+               "9999-12-31 23:59:59"}};
+  ForEachRow(rows, [](const auto& r) {
     EXPECT_DOUBLE_EQ(EncodeDateTime(r.S[0], r.S[1], r.S[2], r.S[3], r.S[4], r.S[5], r.S[6]), r.Serial);
     EXPECT_EQ(Decoded(r.Serial), r.S);
     EXPECT_EQ(DateTimeToStr(r.Serial), r.Text);
     TStamp toTheSecond = r.S;
     toTheSecond[6] = 0;
     EXPECT_EQ(Decoded(StrToDateTime(r.Text)), toTheSecond);
-  }
+  });
 }
 
 TEST(DateUtilsEncodeTest, InvalidPartsRaise) {
@@ -92,36 +95,38 @@ TEST(DateUtilsEncodeTest, DecodingRoundsAndChecksTheCalendar) {
 }
 
 TEST(DateUtilsPartsTest, DaysInMonthAndRecode) {
-  for (const auto& [year, month, days] : {std::array<Word, 3>{2024, 2, 29},
-                                          {2023, 2, 28},
-                                          {1900, 2, 28},
-                                          {2000, 2, 29},
-                                          {2024, 1, 31},
-                                          {2024, 4, 30},
-                                          {2024, 12, 31}}) {
-    EXPECT_EQ(DaysInAMonth(year, month), days) << year << "-" << month;
-    EXPECT_EQ(DaysInMonth(EncodeDate(year, month, 15)), days);
-  }
+  const struct {
+    const char* Name;
+    Word Year, Month, Days;
+  } months[] = {{"leap February", 2024, 2, 29},    {"common February", 2023, 2, 28},
+                {"century February", 1900, 2, 28}, {"fourth-century February", 2000, 2, 29},
+                {"January", 2024, 1, 31},          {"April", 2024, 4, 30},
+                {"December", 2024, 12, 31}};
+  ForEachRow(months, [](const auto& r) {
+    EXPECT_EQ(DaysInAMonth(r.Year, r.Month), r.Days);
+    EXPECT_EQ(DaysInMonth(EncodeDate(r.Year, r.Month, 15)), r.Days);
+  });
   EXPECT_THROW(DaysInAMonth(2024, 13), EAssertionFailed);
   EXPECT_FALSE(IsLeapYear(2100));
 
   const TDateTime base = EncodeDateTime(2024, 2, 29, 13, 45, 30, 123);
   const TDateTime early = EncodeDateTime(1850, 2, 28, 13, 45, 30, 123);
   const struct {
+    const char* Name;
     TDateTime From;
     TDateTime (*Recode)(TDateTime, Word);
     Word Value;
     TStamp Expected;
-  } rows[] = {{base, RecodeMilliSecond, 999, {2024, 2, 29, 13, 45, 30, 999}},
-              {base, RecodeSecond, 59, {2024, 2, 29, 13, 45, 59, 123}},
-              {base, RecodeMinute, 0, {2024, 2, 29, 13, 0, 30, 123}},
-              {base, RecodeHour, 23, {2024, 2, 29, 23, 45, 30, 123}},
-              {base, RecodeDay, 1, {2024, 2, 1, 13, 45, 30, 123}},
-              {base, RecodeMonth, 3, {2024, 3, 29, 13, 45, 30, 123}},
-              {base, RecodeYear, 2028, {2028, 2, 29, 13, 45, 30, 123}},
-              {early, RecodeYear, 1, {1, 2, 28, 13, 45, 30, 123}},
-              {early, RecodeMilliSecond, 7, {1850, 2, 28, 13, 45, 30, 7}}}; // before day 0
-  for (const auto& r : rows) EXPECT_EQ(Decoded(r.Recode(r.From, r.Value)), r.Expected);
+  } rows[] = {{"millisecond", base, RecodeMilliSecond, 999, {2024, 2, 29, 13, 45, 30, 999}},
+              {"second", base, RecodeSecond, 59, {2024, 2, 29, 13, 45, 59, 123}},
+              {"minute", base, RecodeMinute, 0, {2024, 2, 29, 13, 0, 30, 123}},
+              {"hour", base, RecodeHour, 23, {2024, 2, 29, 23, 45, 30, 123}},
+              {"day", base, RecodeDay, 1, {2024, 2, 1, 13, 45, 30, 123}},
+              {"month", base, RecodeMonth, 3, {2024, 3, 29, 13, 45, 30, 123}},
+              {"year, leap to leap", base, RecodeYear, 2028, {2028, 2, 29, 13, 45, 30, 123}},
+              {"year before day zero", early, RecodeYear, 1, {1, 2, 28, 13, 45, 30, 123}},
+              {"millisecond before day zero", early, RecodeMilliSecond, 7, {1850, 2, 28, 13, 45, 30, 7}}};
+  ForEachRow(rows, [](const auto& r) { EXPECT_EQ(Decoded(r.Recode(r.From, r.Value)), r.Expected); });
   ExpectError([&] { RecodeMilliSecond(base, 1000); }, TimeError);
   ExpectError([&] { RecodeHour(base, 24); }, TimeError);
   ExpectError([&] { RecodeYear(base, 2023); }, DateError); // no 2023-02-29
@@ -130,15 +135,19 @@ TEST(DateUtilsPartsTest, DaysInMonthAndRecode) {
 
 TEST(DateUtilsTextTest, FormatAndSettings) {
   const TDateTime value = EncodeDateTime(2005, 3, 4, 5, 6, 7, 8);
-  for (const auto& [format, text] : {std::pair{"yyyy-mm-dd", "2005-03-04"},
-                                     {"yy/m/d", "05-3-4"},
-                                     {"h:n:s", "5:6:7"},
-                                     {"hh:nn:ss.zzz", "05:06:07.008"},
-                                     {"z", "8"},
-                                     {"YYYY MM DD", "2005 03 04"},
-                                     {"dd.mm.yyyy", "04.03.2005"},
-                                     {"yyyy[T]hh", "2005[T]05"}})
-    EXPECT_EQ(FormatDateTime(format, value, TFormatSettings::Invariant()), text) << format;
+  const struct {
+    const char* Name;
+    const char *Format, *Text;
+  } formats[] = {{"padded date", "yyyy-mm-dd", "2005-03-04"},
+                 {"short date", "yy/m/d", "05-3-4"},
+                 {"short time", "h:n:s", "5:6:7"},
+                 {"padded time", "hh:nn:ss.zzz", "05:06:07.008"},
+                 {"milliseconds alone", "z", "8"},
+                 {"upper-case letters", "YYYY MM DD", "2005 03 04"},
+                 {"day first, literal dots", "dd.mm.yyyy", "04.03.2005"},
+                 {"other characters kept", "yyyy[T]hh", "2005[T]05"}};
+  ForEachRow(formats,
+             [&](const auto& r) { EXPECT_EQ(FormatDateTime(r.Format, value, TFormatSettings::Invariant()), r.Text); });
 
   TFormatSettings settings;
   settings.DateSeparator = settings.TimeSeparator = '.';
@@ -152,20 +161,24 @@ TEST(DateUtilsTextTest, FormatAndSettings) {
 }
 
 TEST(DateUtilsTextTest, AcceptedTexts) {
-  const std::pair<const char*, TStamp> dates[] = {{"2024-02-29", {2024, 2, 29}},
-                                                  {" 2024-2-9 ", {2024, 2, 9}},
-                                                  {"49-01-01", {2049, 1, 1}},
-                                                  {"50-12-31", {1950, 12, 31}},
-                                                  {"0001-01-01", {1, 1, 1}}};
-  for (const auto& [text, stamp] : dates) EXPECT_EQ(Decoded(StrToDate(text)), stamp) << text;
-  const std::pair<const char*, TStamp> times[] = {{"12:00", {1899, 12, 30, 12}},
-                                                  {"1:2:3", {1899, 12, 30, 1, 2, 3}},
-                                                  {"12:00:00.5", {1899, 12, 30, 12, 0, 0, 500}},
-                                                  {"23:59:59.999", {1899, 12, 30, 23, 59, 59, 999}},
-                                                  {"12:30 AM", {1899, 12, 30, 0, 30}},
-                                                  {"12:30 PM", {1899, 12, 30, 12, 30}},
-                                                  {" 1:05pm ", {1899, 12, 30, 13, 5}}};
-  for (const auto& [text, stamp] : times) EXPECT_EQ(Decoded(StrToTime(text)), stamp) << text;
+  const struct {
+    const char* Name;
+    TDateTime (*Parse)(std::string_view);
+    const char* Text;
+    TStamp Stamp;
+  } rows[] = {{"padded date", StrToDate, "2024-02-29", {2024, 2, 29}},
+              {"unpadded date in blanks", StrToDate, " 2024-2-9 ", {2024, 2, 9}},
+              {"two-digit year below 50", StrToDate, "49-01-01", {2049, 1, 1}},
+              {"two-digit year from 50", StrToDate, "50-12-31", {1950, 12, 31}},
+              {"the first day", StrToDate, "0001-01-01", {1, 1, 1}},
+              {"hours and minutes", StrToTime, "12:00", {1899, 12, 30, 12}},
+              {"single digits", StrToTime, "1:2:3", {1899, 12, 30, 1, 2, 3}},
+              {"a fraction of a second", StrToTime, "12:00:00.5", {1899, 12, 30, 12, 0, 0, 500}},
+              {"the last millisecond", StrToTime, "23:59:59.999", {1899, 12, 30, 23, 59, 59, 999}},
+              {"half past midnight", StrToTime, "12:30 AM", {1899, 12, 30, 0, 30}},
+              {"half past noon", StrToTime, "12:30 PM", {1899, 12, 30, 12, 30}},
+              {"lower-case afternoon in blanks", StrToTime, " 1:05pm ", {1899, 12, 30, 13, 5}}};
+  ForEachRow(rows, [](const auto& r) { EXPECT_EQ(Decoded(r.Parse(r.Text)), r.Stamp); });
   EXPECT_EQ(Decoded(StrToDateTime("2024-02-29 12:00:00.250")), (TStamp{2024, 2, 29, 12, 0, 0, 250}));
   EXPECT_DOUBLE_EQ(StrToDateTime("1899-12-29   06:00"), -1.25);
 }

@@ -16,15 +16,25 @@ TFormatSettings CommaSettings() {
   return settings;
 }
 
-// Runs ATry on each text and compares the outcome, and the value when it succeeds.
+// A text that parses and the value it yields.
+template <class T> struct TParsed {
+  const char* Name;
+  const char* Text;
+  T Value;
+};
+
+// Runs ATry on each text: the accepted ones yield their values, the rejected ones fail.
 template <class T, class TTry>
-void ExpectParses(TTry ATry, std::initializer_list<std::tuple<const char*, bool, T>> ARows) {
-  for (const auto& [text, ok, expected] : ARows) {
+void ExpectParses(TTry ATry, std::initializer_list<TParsed<T>> AAccepted,
+                  std::initializer_list<const char*> ARejected) {
+  ForEachRow(AAccepted, [&](const TParsed<T>& ARow) {
     T value{};
-    EXPECT_EQ(ATry(text, value), ok) << text;
-    if (ok) {
-      EXPECT_EQ(value, expected) << text;
-    }
+    EXPECT_TRUE(ATry(ARow.Text, value));
+    EXPECT_EQ(value, ARow.Value);
+  });
+  for (const char* text : ARejected) {
+    T value{};
+    EXPECT_FALSE(ATry(text, value)) << text;
   }
 }
 
@@ -54,46 +64,32 @@ TEST(SysUtilsTextTest, ComparisonCaseAndTrim) {
 
 TEST(SysUtilsIntegerTest, TextToInteger) {
   ExpectParses<Integer>([](const char* AText, Integer& AValue) { return TryStrToInt(AText, AValue); },
-                        {{"0", true, 0},
-                         {"-0", true, 0},
-                         {"+17", true, 17},
-                         {"-17", true, -17},
-                         {"007", true, 7},
-                         {"$1f", true, 31},
-                         {"0x1F", true, 31},
-                         {"0X10", true, 16},
-                         {"-$10", true, -16},
-                         {"+0x10", true, 16},
-                         {"$FFFFFFFF", true, -1},
-                         {"$80000000", true, INT32_MIN},
-                         {"2147483647", true, INT32_MAX},
-                         {"-2147483648", true, INT32_MIN},
-                         {"2147483648", false, 0},
-                         {"-2147483649", false, 0},
-                         {"$100000000", false, 0},
-                         {"99999999999999999999", false, 0},
-                         {"", false, 0},
-                         {" 1", false, 0},
-                         {"1 ", false, 0},
-                         {"12a", false, 0},
-                         {"-", false, 0},
-                         {"$", false, 0},
-                         {"0x", false, 0},
-                         {"$G", false, 0},
-                         {"1.0", false, 0},
-                         {"--1", false, 0}});
+                        {{"zero", "0", 0},
+                         {"negative zero", "-0", 0},
+                         {"a plus sign", "+17", 17},
+                         {"a minus sign", "-17", -17},
+                         {"leading zeros", "007", 7},
+                         {"dollar hexadecimal in lower case", "$1f", 31},
+                         {"0x hexadecimal", "0x1F", 31},
+                         {"0X hexadecimal", "0X10", 16},
+                         {"negative hexadecimal", "-$10", -16},
+                         {"hexadecimal with a plus sign", "+0x10", 16},
+                         {"all 32 bits in hexadecimal", "$FFFFFFFF", -1},
+                         {"the sign bit in hexadecimal", "$80000000", INT32_MIN},
+                         {"the largest integer", "2147483647", INT32_MAX},
+                         {"the lowest integer", "-2147483648", INT32_MIN}},
+                        {"2147483648", "-2147483649", "$100000000", "99999999999999999999", "", " 1", "1 ", "12a", "-",
+                         "$", "0x", "$G", "1.0", "--1"});
   ExpectParses<Int64>([](const char* AText, Int64& AValue) { return TryStrToInt64(AText, AValue); },
-                      {{"9223372036854775807", true, INT64_MAX},
-                       {"-9223372036854775808", true, INT64_MIN},
-                       {"9223372036854775808", false, 0},
-                       {"$FFFFFFFFFFFFFFFF", true, -1},
-                       {"$FFFFFFFF", true, 4294967295},
-                       {"0x8000000000000000", true, INT64_MIN},
-                       {"$10000000000000000", false, 0},
-                       {"-$1", true, -1}});
-  ExpectParses<UInt64>(
-      [](const char* AText, UInt64& AValue) { return TryStrToUInt64(AText, AValue); },
-      {{"18446744073709551615", true, UINT64_MAX}, {"18446744073709551616", false, 0}, {"-1", false, 0}});
+                      {{"the largest", "9223372036854775807", INT64_MAX},
+                       {"the lowest", "-9223372036854775808", INT64_MIN},
+                       {"all 64 bits in hexadecimal", "$FFFFFFFFFFFFFFFF", -1},
+                       {"32 bits in hexadecimal stay positive", "$FFFFFFFF", 4294967295},
+                       {"the sign bit in hexadecimal", "0x8000000000000000", INT64_MIN},
+                       {"negative hexadecimal", "-$1", -1}},
+                      {"9223372036854775808", "$10000000000000000"});
+  ExpectParses<UInt64>([](const char* AText, UInt64& AValue) { return TryStrToUInt64(AText, AValue); },
+                       {{"the largest unsigned", "18446744073709551615", UINT64_MAX}}, {"18446744073709551616", "-1"});
   EXPECT_EQ(StrToInt("$7F"), 127);
   EXPECT_EQ(StrToInt64("-5000000000"), -5000000000);
   ExpectError([] { StrToInt("12a"); }, "'12a' is not a valid integer value");
@@ -166,21 +162,13 @@ TEST(SysUtilsFloatTest, SeparatorComesFromTheSettings) {
 TEST(SysUtilsFloatTest, TextToNumbers) {
   ExpectParses<Extended>(
       [](const char* AText, Extended& AValue) { return TryStrToFloat(AText, AValue, TFormatSettings::Invariant()); },
-      {{" 1.5 ", true, 1.5L},
-       {"-2e3", true, -2000},
-       {"+.5", true, 0.5L},
-       {"5.", true, 5},
-       {"1E-2", true, 0.01L},
-       {"7e+1", true, 70},
-       {"", false, 0},
-       {".", false, 0},
-       {"1e", false, 0},
-       {"e5", false, 0},
-       {"1.2.3", false, 0},
-       {"1,5", false, 0},
-       {"1 2", false, 0},
-       {"inf", false, 0},
-       {"1e99999", false, 0}});
+      {{"blanks around", " 1.5 ", 1.5L},
+       {"an exponent", "-2e3", -2000},
+       {"no integer digits", "+.5", 0.5L},
+       {"no fraction digits", "5.", 5},
+       {"a negative exponent", "1E-2", 0.01L},
+       {"a signed exponent", "7e+1", 70}},
+      {"", ".", "1e", "e5", "1.2.3", "1,5", "1 2", "inf", "1e99999"});
   Double narrow = 0;
   EXPECT_FALSE(TryStrToFloat("1e400", narrow)); // fits Extended, not Double
   EXPECT_TRUE(TryStrToFloat("1,25", narrow, CommaSettings()));
@@ -206,20 +194,25 @@ TEST(SysUtilsFloatTest, TextToNumbers) {
   EXPECT_FALSE(TryStrToCurr("1e30", money));
 
   EXPECT_EQ(BoolToStr(true, true) + BoolToStr(false, true) + BoolToStr(true) + BoolToStr(false), "TrueFalse-10");
-  for (const auto& [text, ok, expected] : {std::tuple{"true", true, true},
-                                           {"FALSE", true, false},
-                                           {"0", true, false},
-                                           {"-1", true, true},
-                                           {"0.0", true, false},
-                                           {" 2 ", true, true},
-                                           {"yes", false, false},
-                                           {"", false, false}}) {
-    Boolean value = !expected;
-    EXPECT_EQ(TryStrToBool(text, value), ok) << text;
-    if (ok) {
-      EXPECT_EQ(value, expected) << text;
+  const struct {
+    const char* Name;
+    const char* Text;
+    bool Ok, Value;
+  } booleans[] = {{"a name", "true", true, true},
+                  {"a name in upper case", "FALSE", true, false},
+                  {"zero", "0", true, false},
+                  {"minus one", "-1", true, true},
+                  {"a zero float", "0.0", true, false},
+                  {"any other number in blanks", " 2 ", true, true},
+                  {"another word", "yes", false, false},
+                  {"nothing", "", false, false}};
+  ForEachRow(booleans, [](const auto& ARow) {
+    Boolean value = !ARow.Value;
+    EXPECT_EQ(TryStrToBool(ARow.Text, value), ARow.Ok);
+    if (ARow.Ok) {
+      EXPECT_EQ(value, ARow.Value);
     }
-  }
+  });
 }
 
 TEST(SysUtilsFormatTest, Directives) {
@@ -248,9 +241,17 @@ TEST(SysUtilsFormatTest, Directives) {
   };
   ForEachRow(rows, [](const auto& ARow) { EXPECT_EQ(ARow.Actual, ARow.Expected); });
 
-  for (const auto& [format, argument] : std::vector<std::pair<String, TFormatArg>>{
-           {"%d", "x"}, {"%s", 1}, {"%x", 1.5}, {"%f", 1}, {"%q", 1}, {"50%", 1}})
-    ExpectError([&] { Format(format, {argument}); }, "Format '" + format + "' invalid or incompatible with argument");
+  const struct {
+    const char* Name;
+    String Format;
+    TFormatArg Argument;
+  } refused[] = {{"a text for an integer", "%d", "x"},   {"an integer for a text", "%s", 1},
+                 {"a float for hexadecimal", "%x", 1.5}, {"an integer for a float", "%f", 1},
+                 {"an unknown directive", "%q", 1},      {"a lone percent sign", "50%", 1}};
+  ForEachRow(refused, [](const auto& ARow) {
+    ExpectError([&] { Format(ARow.Format, {ARow.Argument}); },
+                "Format '" + ARow.Format + "' invalid or incompatible with argument");
+  });
   ExpectError([] { Format("%d and %d", {1}); }, "No argument for format '%d and %d'");
   ExpectError([] { Format("%3:d", {1}); }, "No argument for format '%3:d'");
 }

@@ -5,6 +5,7 @@
 
 #include "rtl/Variant.h"
 #include "tests/rtl/ExpectError.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo::Testing {
 namespace {
@@ -12,25 +13,29 @@ namespace {
 int SomeObject = 0;
 
 TEST(VariantBuildTest, CodesEqualityAndNames) {
-  const std::pair<Variant, TVarType> codes[] = {{Variant(), varEmpty},
-                                                {Variant::Null(), varNull},
-                                                {Variant(true), varBoolean},
-                                                {Variant(ShortInt(-1)), varShortInt},
-                                                {Variant(Byte(1)), varByte},
-                                                {Variant(SmallInt(1)), varSmallint},
-                                                {Variant(Word(1)), varWord},
-                                                {Variant(1), varInteger},
-                                                {Variant(1u), varLongWord},
-                                                {Variant(Int64(1)), varInt64},
-                                                {Variant(UInt64(1)), varUInt64},
-                                                {Variant(1.5f), varSingle},
-                                                {Variant(1.5), varDouble},
-                                                {Variant(Currency::FromScaled(1)), varCurrency},
-                                                {Variant::FromDate(1), varDate},
-                                                {Variant("text"), varUString},
-                                                {Variant::FromDispatch(&SomeObject), varDispatch},
-                                                {Variant::FromUnknown(&SomeObject), varUnknown}};
-  for (const auto& [value, code] : codes) EXPECT_EQ(value.VarType(), code) << VarTypeAsText(code);
+  const struct {
+    const char* Name;
+    Variant Value;
+    TVarType Code;
+  } codes[] = {{"empty", Variant(), varEmpty},
+               {"null", Variant::Null(), varNull},
+               {"boolean", Variant(true), varBoolean},
+               {"shortint", Variant(ShortInt(-1)), varShortInt},
+               {"byte", Variant(Byte(1)), varByte},
+               {"smallint", Variant(SmallInt(1)), varSmallint},
+               {"word", Variant(Word(1)), varWord},
+               {"integer", Variant(1), varInteger},
+               {"longword", Variant(1u), varLongWord},
+               {"int64", Variant(Int64(1)), varInt64},
+               {"uint64", Variant(UInt64(1)), varUInt64},
+               {"single", Variant(1.5f), varSingle},
+               {"double", Variant(1.5), varDouble},
+               {"currency", Variant(Currency::FromScaled(1)), varCurrency},
+               {"date", Variant::FromDate(1), varDate},
+               {"text", Variant("text"), varUString},
+               {"dispatch", Variant::FromDispatch(&SomeObject), varDispatch},
+               {"unknown", Variant::FromUnknown(&SomeObject), varUnknown}};
+  ForEachRow(codes, [](const auto& ARow) { EXPECT_EQ(ARow.Value.VarType(), ARow.Code); });
   // Equal needs the same code and the same value.
   EXPECT_EQ(Variant("a"), Variant(String("a")));
   EXPECT_NE(Variant(5), Variant(Int64(5)));
@@ -44,69 +49,71 @@ TEST(VariantBuildTest, CodesEqualityAndNames) {
   EXPECT_TRUE(VarIsClear(Variant::FromDispatch(nullptr)));
   EXPECT_FALSE(VarIsClear(Variant::FromDispatch(&SomeObject)));
   EXPECT_FALSE(VarIsClear(Variant(0)));
-  for (const auto& [code, name] : {std::pair<TVarType, const char*>{varString, "String"},
-                                   {varUString, "UnicodeString"},
-                                   {varArray | varInteger, "Array of Integer"},
-                                   {varByRef | varDouble, "Double by reference"},
-                                   {0x0FFE, "$0FFE"}})
-    EXPECT_EQ(VarTypeAsText(code), name);
+  const struct {
+    const char* Name;
+    TVarType Code;
+    const char* Text;
+  } names[] = {{"string", varString, "String"},
+               {"unicode string", varUString, "UnicodeString"},
+               {"array", varArray | varInteger, "Array of Integer"},
+               {"by reference", varByRef | varDouble, "Double by reference"},
+               {"unknown code", 0x0FFE, "$0FFE"}};
+  ForEachRow(names, [](const auto& ARow) { EXPECT_EQ(VarTypeAsText(ARow.Code), ARow.Text); });
 }
 
 TEST(VariantCastTest, Conversions) {
   const struct {
+    const char* Name;
     Variant Source;
     TVarType Target;
     Variant Expected;
   } rows[] = {
-      {Variant("42"), varInteger, Variant(42)},
-      {Variant(" 42"), varInteger, Variant(42)}, // integer text fails, float text trims
-      {Variant("$FF"), varByte, Variant(Byte(255))},
-      {Variant("-0x10"), varSmallint, Variant(SmallInt(-16))},
-      {Variant("$FFFFFFFFFFFFFFFF"), varInt64, Variant(Int64(-1))},
-      {Variant("$FFFFFFFFFFFFFFFF"), varUInt64, Variant(UINT64_MAX)},
-      {Variant("18446744073709551615"), varUInt64, Variant(UINT64_MAX)},
-      {Variant("2.5"), varInteger, Variant(2)}, // half to even
-      {Variant(3.5), varInteger, Variant(4)},
-      {Variant(-70000), varUString, Variant("-70000")},
-      {Variant(true), varInteger, Variant(-1)},
-      {Variant(false), varSmallint, Variant(SmallInt(0))},
-      {Variant(true), varDouble, Variant(-1.0)},
-      {Variant(true), varUString, Variant("True")},
-      {Variant(0), varBoolean, Variant(false)},
-      {Variant(7), varBoolean, Variant(true)},
-      {Variant(0.25), varBoolean, Variant(true)},
-      {Variant("true"), varBoolean, Variant(true)},
-      {Variant("0"), varBoolean, Variant(false)},
-      {Variant(0.1f), varUString, Variant("0.1")},
-      {Variant(0.1), varUString, Variant("0.1")},
-      {Variant(1e20), varUString, Variant("1E20")},
-      {Variant(Currency::FromScaled(15000)), varUString, Variant("1.5")},
-      {Variant(Currency::FromScaled(25000)), varInteger, Variant(2)},
-      {Variant(Currency::FromScaled(15000)), varDouble, Variant(1.5)},
-      {Variant("1.23456"), varCurrency, Variant(Currency::FromScaled(12346))},
-      {Variant(3), varCurrency, Variant(Currency::FromScaled(30000))},
-      {Variant::FromDate(45351.5), varUString, Variant("2024-02-29 12:00:00")},
-      {Variant::FromDate(45351.75), varInteger, Variant(45352)},
-      {Variant("2024-02-29"), varDate, Variant::FromDate(45351)},
-      {Variant("12:00"), varDate, Variant::FromDate(0.5)},
-      {Variant(45351), varDate, Variant::FromDate(45351)},
-      {Variant(5), varDouble, Variant(5.0)},
-      {Variant(0.5), varSingle, Variant(0.5f)},
-      {Variant(Int64(-1)), varInteger, Variant(-1)},
-      {Variant(Cardinal(4000000000u)), varInt64, Variant(Int64(4000000000))},
-      {Variant(), varInteger, Variant(0)},
-      {Variant(), varUString, Variant("")},
-      {Variant(), varBoolean, Variant(false)},
-      {Variant(), varDispatch, Variant::FromDispatch(nullptr)},
-      {Variant(5), varEmpty, Variant()},
-      {Variant("x"), varNull, Variant::Null()},
-      {Variant::Null(), varEmpty, Variant()},
-      {Variant::Null(), varNull, Variant::Null()},
-      {Variant::FromDispatch(&SomeObject), varDispatch, Variant::FromDispatch(&SomeObject)},
-  };
-  for (const auto& r : rows)
-    EXPECT_EQ(VarCast(r.Source, r.Target), r.Expected)
-        << VarTypeAsText(r.Source.VarType()) << " -> " << VarTypeAsText(r.Target);
+      {"text to integer", Variant("42"), varInteger, Variant(42)},
+      {"padded text to integer, through a float", Variant(" 42"), varInteger, Variant(42)},
+      {"hexadecimal text to byte", Variant("$FF"), varByte, Variant(Byte(255))},
+      {"negative 0x text to smallint", Variant("-0x10"), varSmallint, Variant(SmallInt(-16))},
+      {"64 bits of hexadecimal to int64", Variant("$FFFFFFFFFFFFFFFF"), varInt64, Variant(Int64(-1))},
+      {"64 bits of hexadecimal to uint64", Variant("$FFFFFFFFFFFFFFFF"), varUInt64, Variant(UINT64_MAX)},
+      {"the largest uint64 text", Variant("18446744073709551615"), varUInt64, Variant(UINT64_MAX)},
+      {"float text rounds half to even", Variant("2.5"), varInteger, Variant(2)},
+      {"a float rounds half to even", Variant(3.5), varInteger, Variant(4)},
+      {"integer to text", Variant(-70000), varUString, Variant("-70000")},
+      {"true to integer", Variant(true), varInteger, Variant(-1)},
+      {"false to smallint", Variant(false), varSmallint, Variant(SmallInt(0))},
+      {"true to double", Variant(true), varDouble, Variant(-1.0)},
+      {"true to text", Variant(true), varUString, Variant("True")},
+      {"zero to boolean", Variant(0), varBoolean, Variant(false)},
+      {"another integer to boolean", Variant(7), varBoolean, Variant(true)},
+      {"a fraction to boolean", Variant(0.25), varBoolean, Variant(true)},
+      {"a boolean name to boolean", Variant("true"), varBoolean, Variant(true)},
+      {"zero text to boolean", Variant("0"), varBoolean, Variant(false)},
+      {"single to text, in single precision", Variant(0.1f), varUString, Variant("0.1")},
+      {"double to text", Variant(0.1), varUString, Variant("0.1")},
+      {"large double to text", Variant(1e20), varUString, Variant("1E20")},
+      {"currency to text", Variant(Currency::FromScaled(15000)), varUString, Variant("1.5")},
+      {"currency to integer, half to even", Variant(Currency::FromScaled(25000)), varInteger, Variant(2)},
+      {"currency to double", Variant(Currency::FromScaled(15000)), varDouble, Variant(1.5)},
+      {"text to currency, rounded", Variant("1.23456"), varCurrency, Variant(Currency::FromScaled(12346))},
+      {"integer to currency", Variant(3), varCurrency, Variant(Currency::FromScaled(30000))},
+      {"date to text", Variant::FromDate(45351.5), varUString, Variant("2024-02-29 12:00:00")},
+      {"date to integer, rounded", Variant::FromDate(45351.75), varInteger, Variant(45352)},
+      {"date text to date", Variant("2024-02-29"), varDate, Variant::FromDate(45351)},
+      {"time text to date", Variant("12:00"), varDate, Variant::FromDate(0.5)},
+      {"integer to date", Variant(45351), varDate, Variant::FromDate(45351)},
+      {"integer to double", Variant(5), varDouble, Variant(5.0)},
+      {"double to single", Variant(0.5), varSingle, Variant(0.5f)},
+      {"int64 to integer", Variant(Int64(-1)), varInteger, Variant(-1)},
+      {"longword to int64", Variant(Cardinal(4000000000u)), varInt64, Variant(Int64(4000000000))},
+      {"empty to integer", Variant(), varInteger, Variant(0)},
+      {"empty to text", Variant(), varUString, Variant("")},
+      {"empty to boolean", Variant(), varBoolean, Variant(false)},
+      {"empty to dispatch", Variant(), varDispatch, Variant::FromDispatch(nullptr)},
+      {"anything to empty", Variant(5), varEmpty, Variant()},
+      {"anything to null", Variant("x"), varNull, Variant::Null()},
+      {"null to empty", Variant::Null(), varEmpty, Variant()},
+      {"null to null", Variant::Null(), varNull, Variant::Null()},
+      {"dispatch to dispatch", Variant::FromDispatch(&SomeObject), varDispatch, Variant::FromDispatch(&SomeObject)}};
+  ForEachRow(rows, [](const auto& ARow) { EXPECT_EQ(VarCast(ARow.Source, ARow.Target), ARow.Expected); });
   // The string codes differ in the code only.
   const Variant text = VarCast(Variant(UINT64_MAX), varOleStr);
   EXPECT_EQ(text.VarType(), varOleStr);
@@ -116,42 +123,42 @@ TEST(VariantCastTest, Conversions) {
 
 TEST(VariantCastTest, Refusals) {
   const struct {
+    const char* Name;
     Variant Source;
     TVarType Target;
     bool Overflow;
     const char *From, *To;
-  } rows[] = {
-      {Variant(70000), varSmallint, true, "Integer", "Smallint"},
-      {Variant(-1), varByte, true, "Integer", "Byte"},
-      {Variant(256), varByte, true, "Integer", "Byte"},
-      {Variant(UINT64_MAX), varInt64, true, "UInt64", "Int64"},
-      {Variant(Int64(-1)), varUInt64, true, "Int64", "UInt64"},
-      {Variant(Int64(1) << 32), varLongWord, true, "Int64", "LongWord"},
-      {Variant(1e19), varInt64, true, "Double", "Int64"},
-      {Variant(1e300), varSingle, true, "Double", "Single"},
-      {Variant(1e300), varCurrency, true, "Double", "Currency"},
-      {Variant("40000"), varSmallint, true, "UnicodeString", "Smallint"},
-      {Variant("abc"), varInteger, false, "UnicodeString", "Integer"},
-      {Variant("abc"), varDouble, false, "UnicodeString", "Double"},
-      {Variant("yes"), varBoolean, false, "UnicodeString", "Boolean"},
-      {Variant("2023-02-29"), varDate, false, "UnicodeString", "Date"},
-      {Variant::Null(), varInteger, false, "Null", "Integer"},
-      {Variant::Null(), varUString, false, "Null", "UnicodeString"},
-      {Variant::Null(), varBoolean, false, "Null", "Boolean"},
-      {Variant::FromDispatch(&SomeObject), varInteger, false, "Dispatch", "Integer"},
-      {Variant::FromDispatch(&SomeObject), varUString, false, "Dispatch", "UnicodeString"},
-      {Variant::FromDispatch(&SomeObject), varUnknown, false, "Dispatch", "Unknown"},
-      {Variant(5), varDispatch, false, "Integer", "Dispatch"},
-      {Variant(5), varError, false, "Integer", "Error"},
-      {Variant(5), varVariant, false, "Integer", "Variant"},
-      {Variant(5), varArray | varInteger, false, "Integer", "Array of Integer"},
-      {Variant(5), 0x0FFE, false, "Integer", "$0FFE"},
-      {Variant::FromDate(1e9), varUString, false, "Date", "UnicodeString"},
-  };
-  for (const auto& r : rows)
-    ExpectError<EVariantTypeCastError>([&] { VarCast(r.Source, r.Target); },
-                                       std::string(r.Overflow ? "Overflow while converting" : "Could not convert") +
-                                           " variant of type (" + r.From + ") into type (" + r.To + ")");
+  } rows[] = {{"integer above smallint", Variant(70000), varSmallint, true, "Integer", "Smallint"},
+              {"integer below byte", Variant(-1), varByte, true, "Integer", "Byte"},
+              {"integer above byte", Variant(256), varByte, true, "Integer", "Byte"},
+              {"uint64 above int64", Variant(UINT64_MAX), varInt64, true, "UInt64", "Int64"},
+              {"int64 below uint64", Variant(Int64(-1)), varUInt64, true, "Int64", "UInt64"},
+              {"int64 above longword", Variant(Int64(1) << 32), varLongWord, true, "Int64", "LongWord"},
+              {"double above int64", Variant(1e19), varInt64, true, "Double", "Int64"},
+              {"double above single", Variant(1e300), varSingle, true, "Double", "Single"},
+              {"double above currency", Variant(1e300), varCurrency, true, "Double", "Currency"},
+              {"text above smallint", Variant("40000"), varSmallint, true, "UnicodeString", "Smallint"},
+              {"text without an integer", Variant("abc"), varInteger, false, "UnicodeString", "Integer"},
+              {"text without a float", Variant("abc"), varDouble, false, "UnicodeString", "Double"},
+              {"text without a boolean", Variant("yes"), varBoolean, false, "UnicodeString", "Boolean"},
+              {"text without a date", Variant("2023-02-29"), varDate, false, "UnicodeString", "Date"},
+              {"null to integer", Variant::Null(), varInteger, false, "Null", "Integer"},
+              {"null to text", Variant::Null(), varUString, false, "Null", "UnicodeString"},
+              {"null to boolean", Variant::Null(), varBoolean, false, "Null", "Boolean"},
+              {"dispatch to integer", Variant::FromDispatch(&SomeObject), varInteger, false, "Dispatch", "Integer"},
+              {"dispatch to text", Variant::FromDispatch(&SomeObject), varUString, false, "Dispatch", "UnicodeString"},
+              {"dispatch to unknown", Variant::FromDispatch(&SomeObject), varUnknown, false, "Dispatch", "Unknown"},
+              {"integer to dispatch", Variant(5), varDispatch, false, "Integer", "Dispatch"},
+              {"integer to error", Variant(5), varError, false, "Integer", "Error"},
+              {"integer to variant", Variant(5), varVariant, false, "Integer", "Variant"},
+              {"integer to array", Variant(5), varArray | varInteger, false, "Integer", "Array of Integer"},
+              {"integer to an unknown code", Variant(5), 0x0FFE, false, "Integer", "$0FFE"},
+              {"date beyond the calendar to text", Variant::FromDate(1e9), varUString, false, "Date", "UnicodeString"}};
+  ForEachRow(rows, [](const auto& ARow) {
+    ExpectError<EVariantTypeCastError>([&] { VarCast(ARow.Source, ARow.Target); },
+                                       std::string(ARow.Overflow ? "Overflow while converting" : "Could not convert") +
+                                           " variant of type (" + ARow.From + ") into type (" + ARow.To + ")");
+  });
 }
 
 TEST(VariantReadTest, AccessorsConvert) {

@@ -4,6 +4,7 @@
 #include "reflection/TypeInfo.h"
 #include "runtime/LockItem.h"
 #include "tests/runtime/ComponentTestSupport.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 
@@ -119,19 +120,23 @@ TEST(ComponentOwnershipTest, ComponentsMoveBetweenOwnersAndLeaveOnTheirOwn) {
 }
 
 TEST(FreeNotificationTest, TheComponentThatGoesTellsTheOtherAndBothForget) {
-  for (const bool firstGoes : {true, false}) {
+  const struct {
+    const char* Name;
+    bool FirstGoes;
+  } rows[] = {{"the asking one goes", true}, {"the asked one goes", false}};
+  Testing::ForEachRow(rows, [](const auto& ARow) {
     TLog log;
     TTestLogComponent* a = NewLogged(nullptr, "A", &log);
     TTestLogComponent* b = NewLogged(nullptr, "B", &log);
     a->FreeNotification(b);
     a->FreeNotification(b); // recorded once
-    TObject::Free(firstGoes ? a : b);
-    EXPECT_EQ(log, (firstGoes ? TLog{"B: remove A", "destroy A"} : TLog{"A: remove B", "destroy B"}));
+    TObject::Free(ARow.FirstGoes ? a : b);
+    EXPECT_EQ(log, (ARow.FirstGoes ? TLog{"B: remove A", "destroy A"} : TLog{"A: remove B", "destroy B"}));
     log.clear();
     // The survivor no longer refers to the one that went: ending it tells nobody.
-    TObject::Free(firstGoes ? b : a);
-    EXPECT_EQ(log, TLog{firstGoes ? "destroy B" : "destroy A"});
-  }
+    TObject::Free(ARow.FirstGoes ? b : a);
+    EXPECT_EQ(log, TLog{ARow.FirstGoes ? "destroy B" : "destroy A"});
+  });
   // A removed notification, from either side, is not sent.
   TLog log;
   TTestLogComponent* a = NewLogged(nullptr, "A", &log);
@@ -144,14 +149,20 @@ TEST(FreeNotificationTest, TheComponentThatGoesTellsTheOtherAndBothForget) {
 
 TEST(ComponentStateTest, ConstructorsSeeTheStateAskedOfCreateComponent) {
   const TComponentPtr owner(Construct<TComponent>(nullptr));
-  for (const bool designing : {false, true})
-    for (const bool loading : {false, true}) {
-      auto* component = static_cast<TTestLogComponent*>(
-          TComponentHelper::CreateComponent(TTestLogComponent::ClassInfo(), owner.get(), designing, loading));
-      EXPECT_EQ(component->StateAtConstruction.Contains(csDesigning), designing);
-      EXPECT_EQ(component->StateAtConstruction.Contains(csLoading), loading);
-      EXPECT_EQ(component->Owner(), owner.get());
-    }
+  const struct {
+    const char* Name;
+    bool Designing, Loading;
+  } states[] = {{"running", false, false},
+                {"loading", false, true},
+                {"designing", true, false},
+                {"designing and loading", true, true}};
+  Testing::ForEachRow(states, [&](const auto& ARow) {
+    auto* component = static_cast<TTestLogComponent*>(
+        TComponentHelper::CreateComponent(TTestLogComponent::ClassInfo(), owner.get(), ARow.Designing, ARow.Loading));
+    EXPECT_EQ(component->StateAtConstruction.Contains(csDesigning), ARow.Designing);
+    EXPECT_EQ(component->StateAtConstruction.Contains(csLoading), ARow.Loading);
+    EXPECT_EQ(component->Owner(), owner.get());
+  });
   // An owned part made inside a constructor takes designing from its owner, not loading.
   const TComponentPtr compound(
       TComponentHelper::CreateComponent(TTestCompoundComponent::ClassInfo(), nullptr, true, true));

@@ -5,6 +5,7 @@
 #include "runtime/Popups.h"
 #include "runtime/Shape.h"
 #include "tests/runtime/ComponentTestSupport.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 namespace {
@@ -20,10 +21,15 @@ TRef<ISinglePropertyInfo> PropertyOf(TObject* AObject, const String& AName) {
 // Members whose type is named for its editor, not the type that holds the value.
 TEST(ControlReflectionTest, MembersHaveTheirNamedTypes) {
   const TOwnedObject<TControl> control(Construct<TControl>(nullptr));
-  const std::pair<const char*, PTypeInfo> cases[] = {
-      {"Color", &TypeInfo_TColor}, {"Cursor", &TypeInfo_TCursor}, {"HelpContext", &TypeInfo_THelpContext}};
-  for (const auto& [name, type] : cases)
-    EXPECT_EQ(PropertyOf(control.get(), name)->GetTypeInfo()->GetHandle(), type) << name;
+  const struct {
+    const char *Name, *Member;
+    PTypeInfo Type;
+  } cases[] = {{"colour", "Color", &TypeInfo_TColor},
+               {"cursor", "Cursor", &TypeInfo_TCursor},
+               {"help context", "HelpContext", &TypeInfo_THelpContext}};
+  Testing::ForEachRow(cases, [&](const auto& ACase) {
+    EXPECT_EQ(PropertyOf(control.get(), ACase.Member)->GetTypeInfo()->GetHandle(), ACase.Type);
+  });
   TRef<ISetTypeInfo> anchors;
   ASSERT_TRUE(Supports(PropertyOf(control.get(), "Anchors")->GetTypeInfo(), anchors));
   EXPECT_EQ(anchors->GetElementType()->GetHandle(), TypeInfo<TAnchorKind>());
@@ -31,24 +37,24 @@ TEST(ControlReflectionTest, MembersHaveTheirNamedTypes) {
 
 TEST(ControlReflectionTest, DeclaredDefaultsHoldForANewControlAndNotAfterAWrite) {
   const TOwnedObject<TWinControl> control(Construct<TWinControl>(nullptr));
-  const std::pair<const char*, const char*> cases[] = {
-      {"Visible", "False"},
-      {"Enabled", "False"},
-      {"Color", "255"},
-      {"Cursor", "-21"},
-      {"Align", "alClient"},
-      {"Anchors", "[akLeft]"},
-      {"HelpType", "htKeyword"},
-      {"HelpContext", "7"},
-      {"ParentCustomHint", "False"},
-      {"Tag", "1"},
-  };
-  for (const auto& [name, other] : cases) {
-    const TRef<ISinglePropertyInfo> property = PropertyOf(control.get(), name);
-    EXPECT_TRUE(property->GetHasDefault() && property->GetIsDefault(control.get(), false)) << name;
-    property->SetFromString(control.get(), other);
-    EXPECT_FALSE(property->GetIsDefault(control.get(), false)) << name;
-  }
+  const struct {
+    const char *Name, *Member, *Other;
+  } cases[] = {{"visible", "Visible", "False"},
+               {"enabled", "Enabled", "False"},
+               {"colour", "Color", "255"},
+               {"cursor", "Cursor", "-21"},
+               {"alignment", "Align", "alClient"},
+               {"anchors", "Anchors", "[akLeft]"},
+               {"help type", "HelpType", "htKeyword"},
+               {"help context", "HelpContext", "7"},
+               {"hint from the parent", "ParentCustomHint", "False"},
+               {"tag", "Tag", "1"}};
+  Testing::ForEachRow(cases, [&](const auto& ACase) {
+    const TRef<ISinglePropertyInfo> property = PropertyOf(control.get(), ACase.Member);
+    EXPECT_TRUE(property->GetHasDefault() && property->GetIsDefault(control.get(), false));
+    property->SetFromString(control.get(), ACase.Other);
+    EXPECT_FALSE(property->GetIsDefault(control.get(), false));
+  });
   EXPECT_EQ(PropertyOf(control.get(), "Anchors")->GetDefault(control.get()).ToString(), "[akLeft,akTop]");
   // Without a parent a window control has no place in a tab order: -1, the default.
   EXPECT_TRUE(PropertyOf(control.get(), "TabOrder")->GetIsDefault(control.get(), false));

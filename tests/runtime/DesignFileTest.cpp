@@ -11,6 +11,8 @@
 #include "runtime/DesignFile.h"
 #include "runtime/Events.h"
 #include "runtime/Shape.h"
+#include "tests/rtl/ExpectError.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 
@@ -159,61 +161,74 @@ TEST_F(DesignFileTest, ChildrenAreOwnedByTheRootAndParentedOnlyToAWindowControl)
 }
 
 TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
-  const std::pair<String, const char*> rows[] = {
-      {Design(R"({"class": "TFoo", "name": "Foo1"})"), "Unknown class 'TFoo' for component 'Foo1'"},
-      {Design(R"({"class": "TFont", "name": "Font1"})"), "Class 'TFont' of component 'Font1' is no component class"},
-      {Design(R"({"class": "TShape", "name": "Shape1"}, {"class": "TDesignFileTestAbstract", "name": "Abstract1"})"),
+  const struct {
+    const char* Name;
+    String Json;
+    const char* Message;
+  } rows[] = {
+      {"unknown class", Design(R"({"class": "TFoo", "name": "Foo1"})"), "Unknown class 'TFoo' for component 'Foo1'"},
+      {"no component class", Design(R"({"class": "TFont", "name": "Font1"})"),
+       "Class 'TFont' of component 'Font1' is no component class"},
+      {"abstract class after a made one",
+       Design(R"({"class": "TShape", "name": "Shape1"}, {"class": "TDesignFileTestAbstract", "name": "Abstract1"})"),
        "Cannot create component 'Abstract1' of class 'TDesignFileTestAbstract': Cannot create an instance of the "
        "abstract class"},
-      {Gauge1(R"("Colour": "1")"), "Unknown property 'Colour' of component 'Gauge1' (TDesignFileTestGauge)"},
-      {Gauge1(R"("Secret": "1")"), "Unknown property 'Secret' of component 'Gauge1' (TDesignFileTestGauge)"},
-      {Gauge1(R"("Value.Low": "1")"), "Unknown property 'Value.Low' of component 'Gauge1' (TDesignFileTestGauge)"},
-      {Gauge1(R"("Part.Size": "1")"), "Unknown property 'Part.Size' of component 'Gauge1' (TDesignFileTestGauge)"},
-      {Gauge1(R"("Spare.Level": "1")"), "Cannot reach 'Spare.Level' of component 'Gauge1': 'Spare' is nil"},
-      {Gauge1(R"("Value": "abc")"),
+      {"unknown property", Gauge1(R"("Colour": "1")"),
+       "Unknown property 'Colour' of component 'Gauge1' (TDesignFileTestGauge)"},
+      {"unpublished property", Gauge1(R"("Secret": "1")"),
+       "Unknown property 'Secret' of component 'Gauge1' (TDesignFileTestGauge)"},
+      {"path through a number", Gauge1(R"("Value.Low": "1")"),
+       "Unknown property 'Value.Low' of component 'Gauge1' (TDesignFileTestGauge)"},
+      {"unknown property of a nested object", Gauge1(R"("Part.Size": "1")"),
+       "Unknown property 'Part.Size' of component 'Gauge1' (TDesignFileTestGauge)"},
+      {"path through nil", Gauge1(R"("Spare.Level": "1")"),
+       "Cannot reach 'Spare.Level' of component 'Gauge1': 'Spare' is nil"},
+      {"no number", Gauge1(R"("Value": "abc")"),
        "Invalid value 'abc' for 'Value' of component 'Gauge1': 'abc' is not a valid value for Value"},
-      {Gauge1(R"("Mode": "dmFast")"), "Invalid value 'dmFast' for 'Mode' of component 'Gauge1'"},
-      {Gauge1(R"("Ratio": "-1")"), "Invalid value '-1' for 'Ratio' of component 'Gauge1': Ratio must not be negative"},
-      {Gauge1(R"("Value": 5)"), "The value of 'Value' of component 'Gauge1' must be a text"},
-      {Gauge1(R"("Peer": "Nobody")"), "Unknown component 'Nobody' for 'Peer' of component 'Gauge1'"},
-      {Design(R"({"class": "TShape", "name": "Shape1"},
+      {"unknown enumeration name", Gauge1(R"("Mode": "dmFast")"),
+       "Invalid value 'dmFast' for 'Mode' of component 'Gauge1'"},
+      {"refused by the setter", Gauge1(R"("Ratio": "-1")"),
+       "Invalid value '-1' for 'Ratio' of component 'Gauge1': Ratio must not be negative"},
+      {"a JSON number", Gauge1(R"("Value": 5)"), "The value of 'Value' of component 'Gauge1' must be a text"},
+      {"unknown reference", Gauge1(R"("Peer": "Nobody")"),
+       "Unknown component 'Nobody' for 'Peer' of component 'Gauge1'"},
+      {"reference of another class", Design(R"({"class": "TShape", "name": "Shape1"},
                  {"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Peer": "Shape1"}})"),
        "Component 'Shape1' is no TDesignFileTestGauge for 'Peer' of component 'Gauge1'"},
-      {Design(R"({"class": "TDesignFileTestGauge", "name": "Gauge1"},
+      {"duplicate name in another case", Design(R"({"class": "TDesignFileTestGauge", "name": "Gauge1"},
                  {"class": "TWinControl", "name": "Panel1", "children": [{"class": "TShape", "name": "gauge1"}]})"),
        "Duplicate component name 'gauge1' at components[1].children[0]"},
-      {Design(R"({"class": "TShape", "name": "1st"})"), "Invalid component name '1st' at components[0]"},
-      {Design(R"({"name": "Shape1"})"), "components[0]: \"class\" must be given as a text"},
-      {Design(R"({"class": "TShape", "name": "Shape1", "colour": "red"})"), "components[0]: unknown key \"colour\""},
-      {R"({"components": {"class": "TShape"}})", "components must be a list of components"},
-      {R"({"parts": []})", "The design: unknown key \"parts\""},
-      {R"({})", "The design has no \"components\""},
-      {R"({"components": [}")", "The design is no valid JSON: parse error at line 1, column 17"},
-  };
-  for (const auto& [design, message] : rows) {
+      {"invalid name", Design(R"({"class": "TShape", "name": "1st"})"),
+       "Invalid component name '1st' at components[0]"},
+      {"no class", Design(R"({"name": "Shape1"})"), "components[0]: \"class\" must be given as a text"},
+      {"unknown component key", Design(R"({"class": "TShape", "name": "Shape1", "colour": "red"})"),
+       "components[0]: unknown key \"colour\""},
+      {"components not a list", R"({"components": {"class": "TShape"}})", "components must be a list of components"},
+      {"unknown design key", R"({"parts": []})", "The design: unknown key \"parts\""},
+      {"no components", R"({})", "The design has no \"components\""},
+      {"no JSON", R"({"components": [}")", "The design is no valid JSON: parse error at line 1, column 17"}};
+  Testing::ForEachRow(rows, [this](const auto& ARow) {
     try {
-      ReadDesign(design, FRoot.get());
-      ADD_FAILURE() << "read without an error: " << design;
+      ReadDesign(ARow.Json, FRoot.get());
+      ADD_FAILURE() << "read without an error";
     } catch (const EDesignFileError& e) {
-      EXPECT_EQ(e.Message().substr(0, std::strlen(message)), message) << design;
+      EXPECT_EQ(e.Message().substr(0, std::strlen(ARow.Message)), ARow.Message);
     }
-    EXPECT_EQ(FRoot->ComponentCount(), 0) << design;
-  }
+    EXPECT_EQ(FRoot->ComponentCount(), 0);
+  });
 }
 
 TEST_F(DesignFileTest, ErrorsOfAFileNameTheFile) {
   const String path = ::testing::TempDir() + "design_file_test.json";
   std::ofstream(path) << Design(R"({"class": "TFoo", "name": "Foo1"})");
-  for (const auto& [file, message] :
-       {std::pair<String, String>{"/nonexistent/design.json", "Cannot open design file '/nonexistent/design.json'"},
-        {path, path + ": Unknown class 'TFoo' for component 'Foo1'"}}) {
-    try {
-      ReadDesignFile(file, FRoot.get());
-      ADD_FAILURE() << "read " << file;
-    } catch (const EDesignFileError& e) {
-      EXPECT_EQ(e.Message(), message);
-    }
-  }
+  const struct {
+    const char* Name;
+    String File, Message;
+  } rows[] = {{"missing file", "/nonexistent/design.json", "Cannot open design file '/nonexistent/design.json'"},
+              {"bad content", path, path + ": Unknown class 'TFoo' for component 'Foo1'"}};
+  Testing::ForEachRow(rows, [this](const auto& ARow) {
+    Testing::ExpectError<EDesignFileError>([&] { ReadDesignFile(ARow.File, FRoot.get()); }, ARow.Message);
+  });
   std::remove(path.c_str());
 }
 

@@ -4,6 +4,7 @@
 #include "reflection/RttiTypes.h"
 #include "runtime/Component.h"
 #include "runtime/Events.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 
@@ -50,11 +51,16 @@ TEST(EventTypeTest, EachEventTypeHasARecordOfItsOwnOfKindMethod) {
 
 TEST_F(EventsTest, AnUnassignedEventIsTheEmptyHandlerOfItsTypeAndTheDefault) {
   const TRef<IValueMemberInfo> member = Member("OnChange");
-  for (const TValue& value : {member->GetValue(FSource.get()), member->GetDefault(FSource.get())}) {
+  const struct {
+    const char* Name;
+    TValue Value;
+  } rows[] = {{"the value", member->GetValue(FSource.get())}, {"the default", member->GetDefault(FSource.get())}};
+  Testing::ForEachRow(rows, [](const auto& ARow) {
+    const TValue& value = ARow.Value;
     EXPECT_EQ(value.GetTypeInfo(), &TypeInfo_TNotifyEvent);
     EXPECT_FALSE(value.AsType<TNotifyEvent>());
     EXPECT_EQ(value.ToString(), "nil");
-  }
+  });
   EXPECT_TRUE(member->GetIsDefault(FSource.get(), false));
 }
 

@@ -5,6 +5,8 @@
 #include "reflection/RttiTypes.h"
 #include "reflection/TypeInfo.h"
 #include "runtime/Graphics.h"
+#include "tests/rtl/ExpectError.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 namespace {
@@ -20,32 +22,33 @@ TEST(GraphicsNotificationTest, EachReflectedWriteThatChangesAValueTellsOnce) {
   using TMaker = std::function<TChangeNotifyPersistent*()>;
   const TMaker font = [] { return Construct<TFont>(); }, pen = [] { return Construct<TPen>(); },
                brush = [] { return Construct<TBrush>(); };
-  const std::tuple<TMaker, const char*, const char*> cases[] = {
-      {font, "Name", "Serif"},
-      {font, "Size", "12"},
-      {font, "Height", "-20"},
-      {font, "Color", "255"},
-      {font, "Style", "[fsBold,fsItalic]"},
-      {font, "Charset", "0"},
-      {pen, "Color", "255"},
-      {pen, "Width", "3"},
-      {pen, "Style", "psDot"},
-      {brush, "Color", "0"},
-      {brush, "Style", "bsCross"},
-  };
-  for (const auto& [make, name, text] : cases) {
-    const TOwnedObject<TChangeNotifyPersistent> object(make());
-    SCOPED_TRACE(String(object->ClassName()) + "." + name);
+  const struct {
+    const char* Name;
+    TMaker Make;
+    const char *Member, *Text;
+  } cases[] = {{"font name", font, "Name", "Serif"},
+               {"font size", font, "Size", "12"},
+               {"font height", font, "Height", "-20"},
+               {"font colour", font, "Color", "255"},
+               {"font style", font, "Style", "[fsBold,fsItalic]"},
+               {"font charset", font, "Charset", "0"},
+               {"pen colour", pen, "Color", "255"},
+               {"pen width", pen, "Width", "3"},
+               {"pen style", pen, "Style", "psDot"},
+               {"brush colour", brush, "Color", "0"},
+               {"brush style", brush, "Style", "bsCross"}};
+  Testing::ForEachRow(cases, [](const auto& ACase) {
+    const TOwnedObject<TChangeNotifyPersistent> object(ACase.Make());
     TNoticeCounter notices(*object);
     TRef<IValueMemberInfo> member;
-    ASSERT_TRUE(TRttiObjectHelper::TypeInfo(object.get(), false)->FindMember(name, member));
+    ASSERT_TRUE(TRttiObjectHelper::TypeInfo(object.get(), false)->FindMember(ACase.Member, member));
     EXPECT_TRUE(member->GetIsDefault(object.get(), true));
-    member->SetFromString(object.get(), text);
+    member->SetFromString(object.get(), ACase.Text);
     EXPECT_EQ(notices.Count, 1);
-    EXPECT_EQ(member->GetValue(object.get()).ToString(), text);
-    member->SetFromString(object.get(), text); // the same value again: no change
+    EXPECT_EQ(member->GetValue(object.get()).ToString(), ACase.Text);
+    member->SetFromString(object.get(), ACase.Text); // the same value again: no change
     EXPECT_EQ(notices.Count, 1);
-  }
+  });
 }
 
 TEST(GraphicsNotificationTest, BracketsTellOnceAndRemovedHandlersHearNothing) {
@@ -82,11 +85,15 @@ TEST(GraphicsNotificationTest, BracketsTellOnceAndRemovedHandlersHearNothing) {
 TEST(GraphicsValueTest, FontSizeAndHeightAreTwoViewsOfOneValueAndAColouredClearBrushTurnsSolid) {
   const TOwnedObject<TFont> font(Construct<TFont>());
   EXPECT_EQ(font->GetSize(), 9);
-  for (const auto& [size, height] : {std::pair{8, -11}, {10, -13}, {12, -16}, {72, -96}}) {
-    font->SetSize(size);
-    EXPECT_EQ(font->GetHeight(), height) << size;
-    EXPECT_EQ(font->GetSize(), size) << size;
-  }
+  const struct {
+    const char* Name;
+    Integer Size, Height;
+  } sizes[] = {{"small", 8, -11}, {"rounded down", 10, -13}, {"exact", 12, -16}, {"large", 72, -96}};
+  Testing::ForEachRow(sizes, [&](const auto& ARow) {
+    font->SetSize(ARow.Size);
+    EXPECT_EQ(font->GetHeight(), ARow.Height);
+    EXPECT_EQ(font->GetSize(), ARow.Size);
+  });
   const TOwnedObject<TBrush> brush(Construct<TBrush>());
   brush->SetStyle(bsClear);
   TNoticeCounter notices(*brush);
@@ -107,15 +114,14 @@ TEST(GraphicsAssignTest, CopiesItsOwnClassOnceAndRefusesOthers) {
   EXPECT_EQ(notices.Count, 1);
 
   const TOwnedObject<TPen> pen(Construct<TPen>());
-  for (const auto& [other, message] : {std::pair<TPersistent*, String>{pen.get(), "Cannot assign a TPen to a TFont"},
-                                       {nullptr, "Cannot assign a nil to a TFont"}}) {
-    try {
-      font->Assign(other);
-      ADD_FAILURE() << message;
-    } catch (const EConvertError& e) {
-      EXPECT_EQ(String(e.what()), message);
-    }
-  }
+  const struct {
+    const char* Name;
+    TPersistent* Other;
+    const char* Message;
+  } refused[] = {{"another class", pen.get(), "Cannot assign a TPen to a TFont"},
+                 {"nil", nullptr, "Cannot assign a nil to a TFont"}};
+  Testing::ForEachRow(refused,
+                      [&](const auto& ARow) { Testing::ExpectError([&] { font->Assign(ARow.Other); }, ARow.Message); });
 }
 
 } // namespace

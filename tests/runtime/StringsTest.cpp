@@ -2,6 +2,7 @@
 
 #include "runtime/Graphics.h"
 #include "runtime/Strings.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 namespace {
@@ -30,21 +31,23 @@ String ErrorOf(const std::function<void()>& AAction) {
 }
 
 TEST(StringListTextTest, TextSplitsAtEveryKindOfLineBreakAndJoinsWithLF) {
-  const std::tuple<const char*, TLines, const char*> cases[] = {
-      {"", {}, ""},
-      {"a", {"a"}, "a\n"},
-      {"a\nb\n", {"a", "b"}, "a\nb\n"},
-      {"a\r\nb", {"a", "b"}, "a\nb\n"},
-      {"a\rb\r\n\nc", {"a", "b", "", "c"}, "a\nb\n\nc\n"},
-      {"\n", {""}, "\n"},
-      {"\n\n", {"", ""}, "\n\n"},
-  };
+  const struct {
+    const char *Name, *Text;
+    TLines Lines;
+    const char* Joined;
+  } cases[] = {{"nothing", "", {}, ""},
+               {"one line without a break", "a", {"a"}, "a\n"},
+               {"line feeds", "a\nb\n", {"a", "b"}, "a\nb\n"},
+               {"carriage return and line feed", "a\r\nb", {"a", "b"}, "a\nb\n"},
+               {"mixed breaks and an empty line", "a\rb\r\n\nc", {"a", "b", "", "c"}, "a\nb\n\nc\n"},
+               {"one empty line", "\n", {""}, "\n"},
+               {"two empty lines", "\n\n", {"", ""}, "\n\n"}};
   const auto list = ListOf({});
-  for (const auto& [text, lines, joined] : cases) {
-    list->SetText(text);
-    EXPECT_EQ(LinesOf(*list), lines) << text;
-    EXPECT_EQ(list->GetText(), joined) << text;
-  }
+  Testing::ForEachRow(cases, [&](const auto& ACase) {
+    list->SetText(ACase.Text);
+    EXPECT_EQ(LinesOf(*list), ACase.Lines);
+    EXPECT_EQ(list->GetText(), ACase.Joined);
+  });
 }
 
 TEST(StringListTextTest, CommaTextQuotesWhatWouldNotSurviveAndReadsItBack) {
@@ -54,14 +57,18 @@ TEST(StringListTextTest, CommaTextQuotesWhatWouldNotSurviveAndReadsItBack) {
   const auto copy = ListOf({});
   copy->SetCommaText(list->GetCommaText());
   EXPECT_EQ(LinesOf(*copy), lines);
-  const std::pair<const char*, TLines> parsed[] = {
-      {"a b,c", {"a", "b", "c"}}, // blanks separate outside quotes
-      {"a,,b", {"a", "", "b"}},   {"a,", {"a", ""}}, {"  \"q r\" , s", {"q r", "s"}}, {"", {}},
-  };
-  for (const auto& [text, expected] : parsed) {
-    copy->SetCommaText(text);
-    EXPECT_EQ(LinesOf(*copy), expected) << text;
-  }
+  const struct {
+    const char *Name, *Text;
+    TLines Lines;
+  } parsed[] = {{"blanks separate outside quotes", "a b,c", {"a", "b", "c"}},
+                {"an empty item between commas", "a,,b", {"a", "", "b"}},
+                {"an empty item at the end", "a,", {"a", ""}},
+                {"blanks around a quoted item", "  \"q r\" , s", {"q r", "s"}},
+                {"nothing", "", {}}};
+  Testing::ForEachRow(parsed, [&](const auto& ARow) {
+    copy->SetCommaText(ARow.Text);
+    EXPECT_EQ(LinesOf(*copy), ARow.Lines);
+  });
 }
 
 TEST(StringListSortedTest, AddsGoToTheirPlaceAndDuplicatesFollowTheRule) {

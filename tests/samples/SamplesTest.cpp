@@ -13,6 +13,8 @@
 #include "runtime/DesignFile.h"
 #include "runtime/Events.h"
 #include "runtime/LockItem.h"
+#include "tests/rtl/ExpectError.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 namespace {
@@ -71,15 +73,13 @@ TEST_F(SamplesTest, TheModuleRegistersItsClassesAndTakesThemAlongWhenItUnloads) 
   for (const char* name : names) EXPECT_EQ(FindClass(name), nullptr) << name;
   for (const TClass registered : GetRegisteredComponents()->ToArray())
     EXPECT_NE(GetComponentPage(registered), "Signal");
-  try {
-    ReadDesignFile(SampleDesign, FRoot.get());
-    FAIL() << "the design read without its module";
-  } catch (const EDesignFileError& e) {
-    EXPECT_EQ(e.Message(), SampleDesign + ": Unknown class 'TSignalGenerator' for component 'Generator1'");
-  }
+  Testing::ExpectError<EDesignFileError>([&] { ReadDesignFile(SampleDesign, FRoot.get()); },
+                                         SampleDesign +
+                                             ": Unknown class 'TSignalGenerator' for component 'Generator1'");
 }
 
 struct TMemberRow {
+  const char* Name;
   const char* ClassName;
   const char* Member;
   TTypeKind Kind;
@@ -88,33 +88,30 @@ struct TMemberRow {
 };
 
 TEST_F(SamplesTest, PublishedMembersHaveTheirTypesAndStartAtTheirDefaults) {
-  const TMemberRow rows[] = {
-      {"TSignalGenerator", "Waveform", tkEnumeration, "TWaveform", "wfSine"},
-      {"TSignalGenerator", "Frequency", tkFloat, "Double", "440"},
-      {"TSignalGenerator", "Phase", tkFloat, "Single", "0"},
-      {"TSignalGenerator", "SampleRate", tkInteger, "Cardinal", "48000"},
-      {"TSignalGenerator", "SampleCount", tkInt64, "Int64", "0"},
-      {"TSignalGenerator", "Enabled", tkEnumeration, "Boolean", "True"},
-      {"TSignalFilter", "Options", tkSet, "TFilterOptions", "[]"},
-      {"TSignalFilter", "Order", tkInteger, "SmallInt", "1"},
-      {"TSignalFilter", "Decimation", tkInteger, "Byte", "1"},
-      {"TSignalFilter", "Latency", tkInteger, "Word", "0"},
-      {"TSignalFilter", "GainDb", tkInteger, "ShortInt", "0"},
-      {"TSignalFilter", "Separator", tkChar, "AnsiChar", ","},
-      {"TSignalFilter", "Symbol", tkWChar, "WideChar", "\u03BB"},
-      {"TSignalFilter", "Description", tkUString, "string", ""},
-      {"TSignalFilter", "Units", tkLString, "AnsiString", ""},
-      {"TSignalFilter", "Caption", tkWString, "WideString", ""},
-      {"TSignalFilter", "Code", tkString, "ShortString", ""},
-      {"TSignalFilter", "Designed", tkFloat, "TDate", "1899-12-30"},
-      {"TSignalFilter", "WarmUp", tkFloat, "TTime", "00:00:00"},
-      {"TSignalFilter", "UserData", tkVariant, "Variant", ""},
-      {"TSignalFilter", "Input", tkClass, "TSignalGenerator", "nil"},
-      {"TSignalScope", "Source", tkInterface, "ISignalSource", "nil"},
-      {"TSignalScope", "TraceColor", tkInteger, "TColor", "65280"},
-  };
-  for (const TMemberRow& row : rows) {
-    SCOPED_TRACE(String(row.ClassName) + "." + row.Member);
+  const TMemberRow rows[] = {{"an enumeration", "TSignalGenerator", "Waveform", tkEnumeration, "TWaveform", "wfSine"},
+                             {"a double", "TSignalGenerator", "Frequency", tkFloat, "Double", "440"},
+                             {"a single", "TSignalGenerator", "Phase", tkFloat, "Single", "0"},
+                             {"a cardinal", "TSignalGenerator", "SampleRate", tkInteger, "Cardinal", "48000"},
+                             {"an int64", "TSignalGenerator", "SampleCount", tkInt64, "Int64", "0"},
+                             {"a boolean", "TSignalGenerator", "Enabled", tkEnumeration, "Boolean", "True"},
+                             {"a set", "TSignalFilter", "Options", tkSet, "TFilterOptions", "[]"},
+                             {"a smallint", "TSignalFilter", "Order", tkInteger, "SmallInt", "1"},
+                             {"a byte", "TSignalFilter", "Decimation", tkInteger, "Byte", "1"},
+                             {"a word", "TSignalFilter", "Latency", tkInteger, "Word", "0"},
+                             {"a shortint", "TSignalFilter", "GainDb", tkInteger, "ShortInt", "0"},
+                             {"an ansi character", "TSignalFilter", "Separator", tkChar, "AnsiChar", ","},
+                             {"a wide character", "TSignalFilter", "Symbol", tkWChar, "WideChar", "\u03BB"},
+                             {"a string", "TSignalFilter", "Description", tkUString, "string", ""},
+                             {"an ansi string", "TSignalFilter", "Units", tkLString, "AnsiString", ""},
+                             {"a wide string", "TSignalFilter", "Caption", tkWString, "WideString", ""},
+                             {"a short string", "TSignalFilter", "Code", tkString, "ShortString", ""},
+                             {"a date", "TSignalFilter", "Designed", tkFloat, "TDate", "1899-12-30"},
+                             {"a time", "TSignalFilter", "WarmUp", tkFloat, "TTime", "00:00:00"},
+                             {"a variant", "TSignalFilter", "UserData", tkVariant, "Variant", ""},
+                             {"a component reference", "TSignalFilter", "Input", tkClass, "TSignalGenerator", "nil"},
+                             {"an interface reference", "TSignalScope", "Source", tkInterface, "ISignalSource", "nil"},
+                             {"a colour", "TSignalScope", "TraceColor", tkInteger, "TColor", "65280"}};
+  Testing::ForEachRow(rows, [this](const TMemberRow& row) {
     TComponent* instance = Create(row.ClassName);
     const TRef<ISinglePropertyInfo> member = Property(instance, row.Member);
     ASSERT_TRUE(member);
@@ -123,7 +120,7 @@ TEST_F(SamplesTest, PublishedMembersHaveTheirTypesAndStartAtTheirDefaults) {
     EXPECT_EQ(member->GetTypeInfo()->GetName(), row.TypeName);
     EXPECT_EQ(member->GetValue(instance).ToString(), row.Text);
     EXPECT_TRUE(member->GetIsDefault(instance, false));
-  }
+  });
 }
 
 TEST_F(SamplesTest, MethodsAndSettersRunThroughTheReflection) {

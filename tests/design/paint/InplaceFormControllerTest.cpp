@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "design/paint/InplaceFormController.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 namespace {
@@ -100,12 +101,16 @@ TEST_F(InplaceFormControllerTest, FormsOutlivingTheirControllerOrDestroyedFromOu
   FController = New<TInplaceEditorFormController<TProbeForm>>([](TIGXRect) { return new TProbeForm(); });
   const auto form = Open("c", 0, grid);
   delete grid;
-  for (const auto& gone : {destroyed, form}) {
-    EXPECT_EQ(gone->GetForm(), nullptr);
-    EXPECT_EQ(gone->GetHeight(), 0);
-    gone->UpdateRect(TIGXRect(1, 2, 3, 4));
-    gone->UpdateColor(clHighlight);
-  }
+  const struct {
+    const char* Name;
+    TRef<IInplaceForm> Gone;
+  } gone[] = {{"of the released controller", destroyed}, {"of the live controller", form}};
+  Testing::ForEachRow(gone, [](const auto& ARow) {
+    EXPECT_EQ(ARow.Gone->GetForm(), nullptr);
+    EXPECT_EQ(ARow.Gone->GetHeight(), 0);
+    ARow.Gone->UpdateRect(TIGXRect(1, 2, 3, 4));
+    ARow.Gone->UpdateColor(clHighlight);
+  });
   EXPECT_EQ(FController->GetForms()->GetItem(0).Form, nullptr);
 }
 
