@@ -87,12 +87,14 @@ TModule* LoadModule(const std::string& APath) {
   }
   if (module->FHandle) dlclose(handle); // opened before: keep one reference
   else module->FHandle = handle;
+  ++module->FLoadCount;
   return module;
 }
 
 void UnloadModule(TModule* AModule) {
   TModuleRegistry& registry = Registry();
   if (!AModule || !AModule->IsLoaded()) throw EModuleError("Only a module opened by LoadModule can be unloaded");
+  if (--AModule->FLoadCount > 0) return;
   registry.UnloadProcs.Run(AModule);
   void* handle = AModule->FHandle;
   std::erase_if(registry.Modules, [AModule](const auto& m) { return m.get() == AModule; });

@@ -26,6 +26,8 @@ public:
   const void* Base() const { return FBase; }
   // True for modules opened by LoadModule, which UnloadModule may close.
   bool IsLoaded() const { return FHandle != nullptr; }
+  // How many LoadModule calls are not yet balanced by UnloadModule.
+  int LoadCount() const { return FLoadCount; }
 
   // A named resource of this module; an empty span when there is none (names are case-insensitive).
   std::span<const std::byte> FindResource(const std::string& AName) const;
@@ -46,6 +48,7 @@ private:
   const void* FBase;
   std::string FFileName;
   void* FHandle;
+  int FLoadCount = 0;
   std::map<std::string, std::span<const std::byte>> FResources; // by upper-cased name
   std::vector<const TMetaClass*> FClasses;
 };
@@ -54,11 +57,12 @@ private:
 // that no module holds.
 TModule* FindModule(const void* AAddress);
 
-// Opens a shared library as a module; its static registrations run while it opens.
-// Raises EModuleError when it cannot be opened.
+// Opens a shared library as a module; its static registrations run while it opens. Opening a
+// module that is open already gives the same module and counts: each load is balanced by one
+// UnloadModule. Raises EModuleError when it cannot be opened.
 TModule* LoadModule(const std::string& APath);
-// Runs every unload procedure with the module, then forgets its classes and resources and
-// closes it.
+// Balances one LoadModule. The last one runs every unload procedure with the module, then
+// forgets its classes and resources and closes it; the module object is gone afterwards.
 void UnloadModule(TModule* AModule);
 
 // Procedures run when a module goes away; the key removes one again.

@@ -54,6 +54,10 @@ TEST(ModuleTest, UnloadSweepsTheModulesClassesAndResources) {
     TModule* module = LoadModule(TARVO_TEST_MODULE_PATH);
     ASSERT_TRUE(module->IsLoaded());
     EXPECT_EQ(LoadModule(TARVO_TEST_MODULE_PATH), module); // a second load is the same module
+    EXPECT_EQ(module->LoadCount(), 2);
+    UnloadModule(module); // balances the second load: the module stays
+    EXPECT_TRUE(unloaded.empty());
+    EXPECT_EQ(module->LoadCount(), 1);
     ASSERT_NE(FindClass("TTestModuleThing"), nullptr);
     EXPECT_EQ(FindClass("TTestModuleThing")->Module(), module);
     EXPECT_EQ(DescribeModuleThing(), "Value:Integer=1 Mood:TTestModuleMood=tmCalm ");
