@@ -1,7 +1,5 @@
 #include "design/paint/PaintObjects.h"
 
-#include <QFontInfo>
-
 namespace Tarvo {
 
 TFunc<TRef<IPaintObjects>> _GetDesignPaintObjects;
@@ -9,9 +7,6 @@ TFunc<TRef<IPaintObjects>> _GetDesignPaintObjects;
 namespace {
 
 TRef<IPaintObjects> GDesignPaintObjects;
-
-// The family that text asked in AFamily is actually shown in: AFamily itself where installed.
-String ShownFontFamily(const char* AFamily) { return QFontInfo(QFont(AFamily)).family().toStdString(); }
 
 } // namespace
 
@@ -24,9 +19,8 @@ TItemObjectSet::TItemObjectSet()
       FSelected(New<TPaintObjectSet>(clHighlight, clHighlightText)), FHighlighted(FSelected) {}
 
 TPaintObjects::TPaintObjects() : FListSet(New<TItemObjectSet>()) {
-  const String family = ShownFontFamily(DefaultFontFamily);
-  FFont = New<TIGXFont>(family, DefaultFontSize, gfsRegular, fuPoint);
-  FModifiedFont = New<TIGXFont>(family, DefaultFontSize, gfsBold, fuPoint);
+  FFont = New<TIGXFont>(DefaultFontFamily, DefaultFontSize, gfsRegular, fuPoint);
+  FModifiedFont = New<TIGXFont>(DefaultFontFamily, DefaultFontSize, gfsBold, fuPoint);
   const auto format = New<TIGXStringFormat>(sfNoWrap);
   format->SetTrimming(stEllipsisCharacter);
   format->SetLineAlignment(saCenter);

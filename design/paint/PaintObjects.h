@@ -88,7 +88,8 @@ public:
   static constexpr const char* DefaultFontFamily = "Microsoft Sans Serif";
   static constexpr Single DefaultFontSize = 8.0f;
 
-  // Fonts of DefaultFontFamily, or of the family this machine shows in its place when it lacks it.
+  // Fonts of DefaultFontFamily by that name, on every machine: where the family is missing, the
+  // drawing shows the family the platform substitutes, and the name stays the design's.
   TPaintObjects();
 
   TRef<IGXFont> GetFont() override { return FFont; }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QFontDatabase>
+#include <QFontInfo>
 
 #include "design/paint/EditorPaint.h"
 #include "design/paint/PaintObjects.h"
@@ -26,7 +27,7 @@ TEST(PaintObjectsTest, SetsResolveTheirBrushesAndRowsTakeWindowAndHighlightColou
   EXPECT_EQ(list->GetSelected(), list->GetHighlighted());
 }
 
-// Whether or not the named family is installed, the one used is; only a host gives bitmaps.
+// Only a host gives bitmaps.
 TEST(PaintObjectsTest, DefaultsAndTheirFontFallback) {
   const auto objects = New<TPaintObjects>();
   const auto font = objects->GetFont();
@@ -35,10 +36,9 @@ TEST(PaintObjectsTest, DefaultsAndTheirFontFallback) {
   EXPECT_EQ(font->GetStyle(), gfsRegular);
   EXPECT_EQ(objects->GetModifiedFont()->GetStyle(), gfsBold);
   EXPECT_EQ(objects->GetModifiedFont()->GetFamily(), font->GetFamily());
-  EXPECT_TRUE(QFontDatabase::families().contains(QString::fromStdString(font->GetFamily()))) << font->GetFamily();
-  if (QFontDatabase::families().contains(TPaintObjects::DefaultFontFamily)) {
-    EXPECT_EQ(font->GetFamily(), TPaintObjects::DefaultFontFamily);
-  }
+  // The design's family is kept by name, installed or not; drawing finds an installed one for it.
+  EXPECT_EQ(font->GetFamily(), "Microsoft Sans Serif");
+  EXPECT_TRUE(QFontDatabase::families().contains(QFontInfo(font->ToQFont()).family()));
   const auto format = objects->GetStringFormat();
   EXPECT_EQ(format->GetFormatFlags(), sfNoWrap);
   EXPECT_EQ(format->GetTrimming(), stEllipsisCharacter);
