@@ -137,6 +137,19 @@ TRef<IArrayList<Boolean>> TSinglePropertyEditor::GetIsDefaults(const TRef<IObjec
   return result;
 }
 
+TRef<IArrayList<Boolean>> TSinglePropertyEditor::GetIsDefaultsByText(const TRef<IObjectArrayList>& AObjectsList,
+                                                                      String (*AText)(const TValue&)) {
+  const String defaultText = AText(GetDefaultValue());
+  const TRef<IArrayList<TIsDefaultByStrored>> stored = GetIsDefaultsByStored(AObjectsList);
+  const TRef<IValueArrayList> values = GetInstanceValues(AObjectsList);
+  const TRef<IArrayList<Boolean>> result = New<TArrayList<Boolean>>();
+  for (Integer i = 0; i < values->GetCount(); ++i) {
+    if (i < stored->GetCount() && stored->GetItem(i).HasStored) result->Add(stored->GetItem(i).IsDefault);
+    else result->Add(AText(values->GetItem(i)) == defaultText);
+  }
+  return result;
+}
+
 Boolean TSinglePropertyEditor::GetIsAllDefault() { return !GetIsDefaults(nullptr)->Query()->Contains(false); }
 
 TRef<IArrayList<TIsDefaultByStrored>>

@@ -7,6 +7,8 @@
 
 #include "design/MemberEditor.h"
 
+class QWidget;
+
 namespace Tarvo {
 
 class TSinglePropertyEditor;
@@ -58,6 +60,13 @@ class TARVO_API IPropertyEditorDropDownStringList : public virtual IInterface {
   TARVO_INTERFACE(IPropertyEditorDropDownStringList, "{00E16386-0F34-4CAE-9CFA-85AEC8707DD0}", IInterface)
 public:
   virtual TRef<IStringArrayList> GetStringListValues() = 0;
+};
+
+// An editor that edits its value in a dialog of its own. AOwner, the host's window, may be nil.
+class TARVO_API IPropertyEditorDialog : public virtual IInterface {
+  TARVO_INTERFACE(IPropertyEditorDialog, "{5A0E7C2B-91D4-4F36-8B1E-2C7D3F9A6E41}", IInterface)
+public:
+  virtual void Execute(QWidget* AOwner) = 0;
 };
 
 // Interfaces that attributes of the member make on demand (drop-down lists, the list dialog) are
@@ -125,6 +134,10 @@ public:
 protected:
   // Subclasses set up here, calling the inherited one first.
   virtual void InitCreate(TSinglePropertyEditor* AInstance);
+  // For editors that compare values by text: a stored specifier's answer where an object has one,
+  // else whether the value's text equals the default's exactly.
+  TRef<IArrayList<Boolean>> GetIsDefaultsByText(const TRef<IObjectArrayList>& AObjectsList,
+                                                String (*AText)(const TValue&));
 
   TRef<IArrayList<TRef<IRefreshMemberNotify>>> FRefreshNotifyList;
 

@@ -65,6 +65,12 @@ public:
   virtual TMemberVisibility GetVisibility() = 0;
 };
 
+// The member's attribute of class A, its type's attributes included; nil when it has none.
+template <class A> A* FindMemberAttribute(const TRef<IMemberInfo>& AMember) {
+  TCustomAttribute* found = nullptr;
+  return AMember->GetCustomAttribute(A::ClassInfo(), true, found) ? static_cast<A*>(found) : nullptr;
+}
+
 // The members of a type: a list of IMemberInfo.
 using IMembersInfo = IArrayList<TRef<IMemberInfo>>;
 using TMembersInfo = TArrayList<TRef<IMemberInfo>>;

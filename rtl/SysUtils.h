@@ -49,6 +49,11 @@ std::vector<std::string_view> SplitString(std::string_view AText, char ASeparato
 
 // Decimal with an optional sign, or "$"/"0x" and hex digits (a sign may precede them). Hex may
 // spell the full unsigned bit pattern of the target; no blanks are allowed.
+// One UTF-16 unit of the basic plane and its UTF-8 text; false for a text that is not exactly one
+// such character.
+String WideCharToUtf8(WideChar AChar);
+bool Utf8ToWideChar(const String& AText, WideChar& AResult);
+
 bool TryStrToInt(std::string_view AText, Integer& AResult);
 bool TryStrToInt64(std::string_view AText, Int64& AResult);
 bool TryStrToUInt64(std::string_view AText, UInt64& AResult);

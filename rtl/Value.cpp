@@ -122,33 +122,6 @@ bool IsDateType(PTypeInfo AType) {
 }
 
 // One UTF-16 unit as UTF-8, and back; a wide character is one unit.
-String WideCharToUtf8(WideChar AChar) {
-  const unsigned c = AChar;
-  String s;
-  if (c < 0x80) s += char(c);
-  else if (c < 0x800) {
-    s += char(0xC0 | c >> 6);
-    s += char(0x80 | (c & 0x3F));
-  } else {
-    s += char(0xE0 | c >> 12);
-    s += char(0x80 | (c >> 6 & 0x3F));
-    s += char(0x80 | (c & 0x3F));
-  }
-  return s;
-}
-
-bool Utf8ToWideChar(const String& AText, WideChar& AResult) {
-  const auto* p = reinterpret_cast<const unsigned char*>(AText.data());
-  const std::size_t n = AText.size();
-  if (n == 1 && p[0] < 0x80) AResult = p[0];
-  else if (n == 2 && (p[0] & 0xE0) == 0xC0 && (p[1] & 0xC0) == 0x80)
-    AResult = WideChar((p[0] & 0x1F) << 6 | (p[1] & 0x3F));
-  else if (n == 3 && (p[0] & 0xF0) == 0xE0 && (p[1] & 0xC0) == 0x80 && (p[2] & 0xC0) == 0x80)
-    AResult = WideChar((p[0] & 0x0F) << 12 | (p[1] & 0x3F) << 6 | (p[2] & 0x3F));
-  else return false;
-  return true;
-}
-
 String AddressText(const void* AAddress) {
   char text[32];
   std::snprintf(text, sizeof text, "%p", AAddress);

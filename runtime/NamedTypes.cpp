@@ -8,6 +8,7 @@ constinit const TTypeInfo TypeInfo_TCursor = OrdinalTypeRecord<SmallInt>("TCurso
 constinit const TTypeInfo TypeInfo_TFontName = StringTypeRecord("TFontName", tkUString);
 constinit const TTypeInfo TypeInfo_TFontCharset = OrdinalTypeRecord<Byte>("TFontCharset", 0, 255);
 constinit const TTypeInfo TypeInfo_TImeName = StringTypeRecord("TImeName", tkUString);
+constinit const TTypeInfo TypeInfo_TAttributedFileName = StringTypeRecord("TAttributedFileName", tkUString);
 constinit const TTypeInfo TypeInfo_TComponentName = StringTypeRecord("TComponentName", tkUString);
 constinit const TTypeInfo TypeInfo_TModalResult = OrdinalTypeRecord<Integer>("TModalResult");
 constinit const TTypeInfo TypeInfo_TShortCut = OrdinalTypeRecord<Word>("TShortCut");

@@ -72,6 +72,13 @@ TARVO_SET(TFontStyles, TFontStyle)
 using TImeName = String;
 extern const TTypeInfo TypeInfo_TImeName;
 
+// ---- Files ----
+
+// A file's path, picked in an open dialog at design time; FileNameDesignAttribute on the member
+// gives the dialog its filter.
+using TAttributedFileName = String;
+extern const TTypeInfo TypeInfo_TAttributedFileName;
+
 // ---- Drawing styles ----
 
 TARVO_ENUM(TBrushStyle, bsSolid, bsClear, bsHorizontal, bsVertical, bsFDiagonal, bsBDiagonal, bsCross, bsDiagCross)

@@ -14,6 +14,15 @@ public:
   virtual TValue GetMaxValue() = 0;
 };
 
+// The range a numeric row suggests for sliding: narrower than the hard range where the member's
+// attributes say so. Answered also where IPropertyRange is suppressed: it limits nothing.
+class TARVO_API IPropertySuggestedRange : public virtual IInterface {
+  TARVO_INTERFACE(IPropertySuggestedRange, "{8D3F0B52-6A1E-4C7D-9F24-3B5E7A1C0D98}", IInterface)
+public:
+  virtual TValue GetSuggestedMinValue() = 0;
+  virtual TValue GetSuggestedMaxValue() = 0;
+};
+
 // A snapshot: later changes of the limits it was taken from do not reach it.
 class TARVO_API TPropertyRange : public TImplements<TInterfaced, IPropertyRange> {
 public:

@@ -109,8 +109,8 @@ TEST_F(PackageRegistrationsTest, ControlsAndComponentsHideTheirListedMembersOnly
                            "HelpKeyword", "PopupMenu", "CustomHint", "ParentCustomHint", "Tag"})
     EXPECT_EQ(EditorOf(shape.get(), name), "THiddenEditor") << name;
   EXPECT_EQ(EditorOf(component.get(), "Tag"), "THiddenEditor");
-  EXPECT_EQ(EditorOf(&plain, "Left"), "TSinglePropertyEditor");
-  EXPECT_EQ(EditorOf(&plain, "Tag"), "TSinglePropertyEditor");
+  EXPECT_EQ(EditorOf(&plain, "Left"), "TIntegerPropertyEditor");
+  EXPECT_EQ(EditorOf(&plain, "Tag"), "TInt64PropertyEditor");
   EXPECT_EQ(EditorOf(shape.get(), "Shape"), "TSinglePropertyEditor");
   EXPECT_EQ(EditorOf(shape.get(), "SetBounds"), "TMethodEditor");
 }
