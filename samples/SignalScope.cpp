@@ -4,6 +4,8 @@
 #include <cmath>
 
 #include "reflection/Publish.h"
+#include "reflection/RangeAttributes.h"
+#include "reflection/StringAttributes.h"
 #include "rtl/SysUtils.h"
 #include "samples/SignalPalette.h"
 
@@ -19,6 +21,25 @@ TARVO_PUBLISH(TSignalScope) {
   Property("TraceColor", &TSignalScope::GetTraceColor, &TSignalScope::SetTraceColor, &TypeInfo_TColor)
       .Default(TSignalScope::DefaultTraceColor);
   Property("Caption", &TSignalScope::GetCaption, &TSignalScope::SetCaption);
+  Property("Gain", &TSignalScope::GetGain, &TSignalScope::SetGain).Default(Byte(1));
+  Property("SampleCount", &TSignalScope::GetSampleCount, &TSignalScope::SetSampleCount)
+      .Default(TSignalScope::DefaultSampleCount);
+  Property("Position", &TSignalScope::GetPosition, &TSignalScope::SetPosition).Default(Int64(0));
+  // The slider runs over the channels there are.
+  Property("Channel", &TSignalScope::GetChannel, &TSignalScope::SetChannel)
+      .Default(1)
+      .Attr<DesignRangeAttribute>(TValue(1), TValue(TSignalScope::MaxChannel));
+  // Kept within its limits on every write, but offers no range to the host.
+  Property("Offset", &TSignalScope::GetOffset, &TSignalScope::SetOffset)
+      .Default(0)
+      .Limits(-TSignalScope::MaxOffset, TSignalScope::MaxOffset)
+      .Attr<SuppressRangeAttribute>();
+  Property("TraceName", &TSignalScope::GetTraceName, &TSignalScope::SetTraceName)
+      .Default(String("Trace"))
+      .Attr<IdentifierStringAttribute>();
+  Property("ExportFile", &TSignalScope::GetExportFile, &TSignalScope::SetExportFile, &TypeInfo_TAttributedFileName)
+      .Attr<FileNameDesignAttribute>("CSV files (*.csv)|*.csv|All files|*.*", "csv");
+  Property("CaptionFont", &TSignalScope::GetCaptionFont, &TSignalScope::SetCaptionFont, &TypeInfo_TFontName);
   Public();
   Property("RedrawCount", &TSignalScope::GetRedrawCount);
   Method("Peak", &TSignalScope::Peak, {"ACount"});

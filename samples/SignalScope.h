@@ -15,6 +15,9 @@ class TSignalScope : public TImplements<TWinControl, ILockItem> {
 
 public:
   static constexpr TColor DefaultTraceColor = 0x00FF00;
+  static constexpr Cardinal DefaultSampleCount = 1000;
+  static constexpr Integer MaxChannel = 8;
+  static constexpr Integer MaxOffset = 100;
 
   explicit TSignalScope(TComponent* AOwner);
 
@@ -33,6 +36,28 @@ public:
   void SetTraceColor(TColor AValue) { FTraceColor = AValue; }
   const String& GetCaption() const { return FCaption; }
   void SetCaption(const String& AValue) { FCaption = AValue; }
+  // Vertical amplification, 1 to 255.
+  Byte GetGain() const { return FGain; }
+  void SetGain(Byte AValue) { FGain = AValue; }
+  // Samples across the screen.
+  Cardinal GetSampleCount() const { return FSampleCount; }
+  void SetSampleCount(Cardinal AValue) { FSampleCount = AValue; }
+  // The sample the trigger stands at, before (negative) or after the start.
+  Int64 GetPosition() const { return FPosition; }
+  void SetPosition(Int64 AValue) { FPosition = AValue; }
+  // The input the scope shows, of MaxChannel.
+  Integer GetChannel() const { return FChannel; }
+  void SetChannel(Integer AValue) { FChannel = AValue; }
+  // The trace's shift in pixels, within plus and minus MaxOffset.
+  Integer GetOffset() const { return FOffset; }
+  void SetOffset(Integer AValue) { FOffset = AValue; }
+  // The trace's name in exported data: an identifier.
+  const String& GetTraceName() const { return FTraceName; }
+  void SetTraceName(const String& AValue) { FTraceName = AValue; }
+  const String& GetExportFile() const { return FExportFile; }
+  void SetExportFile(const String& AValue) { FExportFile = AValue; }
+  const String& GetCaptionFont() const { return FCaptionFont; }
+  void SetCaptionFont(const String& AValue) { FCaptionFont = AValue; }
 
   // The largest magnitude among the first ACount samples of the source.
   Double Peak(Integer ACount) const;
@@ -50,6 +75,14 @@ private:
   Boolean FGrid = true;
   TColor FTraceColor = DefaultTraceColor;
   String FCaption;
+  Byte FGain = 1;
+  Cardinal FSampleCount = DefaultSampleCount;
+  Int64 FPosition = 0;
+  Integer FChannel = 1;
+  Integer FOffset = 0;
+  String FTraceName = "Trace";
+  String FExportFile;
+  String FCaptionFont;
   Integer FRedrawCount = 0;
 };
 

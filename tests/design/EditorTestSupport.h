@@ -10,13 +10,15 @@
 
 namespace Tarvo::Testing {
 
-// Logs "Modified" and "ResetObjectInspector" into a log the test may share with its objects, so
+// Logs "Modified", "BeginModify", "EndModify" and "ResetObjectInspector" into a log the test may share with its objects, so
 // that one log shows the order of writes and notices. The root selection may be set apart from
 // the selection.
 class TLoggingDesigner : public TDesigner {
 public:
   explicit TLoggingDesigner(std::vector<String>& ALog) : FLog(ALog) {}
   void Modified() override { FLog.push_back("Modified"); }
+  void BeginModify() override { FLog.push_back("BeginModify"); }
+  void EndModify() override { FLog.push_back("EndModify"); }
   void ResetObjectInspector() override { FLog.push_back("ResetObjectInspector"); }
   TRef<IObjectArrayList> GetRootSelection() override { return Root ? Root : TDesigner::GetRootSelection(); }
   void Select(std::vector<TObject*> AObjects) { SetSelection(TObjectArrayList::CreateArray(AObjects)); }

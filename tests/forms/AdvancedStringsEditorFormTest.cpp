@@ -109,7 +109,9 @@ TEST(AdvancedStringsEditorFormTest, StatusFollowsTheCaretAndTheText) {
   // Text added after the caret, which stays, changes the count only.
   TAdvancedStringsEditorForm form;
   form.Editor->setPlainText(QStringLiteral("ab"));
-  QTextCursor(form.Editor->document()->lastBlock()).insertText(QStringLiteral("cd\n\n"));
+  QTextCursor end(form.Editor->document());
+  end.movePosition(QTextCursor::End);
+  end.insertText(QStringLiteral("\ncd\n"));
   EXPECT_EQ(form.Editor->textCursor().position(), 0);
   EXPECT_EQ(form.PositionLabel->text().toStdString(), "Line 1, Column 1");
   EXPECT_EQ(form.LineCountLabel->text().toStdString(), "2 lines");

@@ -1,0 +1,147 @@
+#include <gtest/gtest.h>
+
+#include "design/editors/OrdinalEditors.h"
+#include "design/paint/InplaceFormController.h"
+#include "forms/RangedInplaceForm.h"
+#include "reflection/Publish.h"
+#include "reflection/RangeAttributes.h"
+#include "reflection/RowAttributes.h"
+#include "tests/design/EditorTestSupport.h"
+
+namespace Tarvo {
+
+class TOrdGadget : public TComponent {
+  TARVO_CLASS(TOrdGadget, TComponent)
+public:
+  TOrdGadget() : TComponent(nullptr) {}
+  Byte FGain = 0;
+  Cardinal FCount = 0;
+  Int64 FPosition = 0;
+  SmallInt FOrder = 1;
+  Integer FChannel = 0, FOffset = 0, FCrossed = 0, FFixed = 0, FInner = 0;
+};
+TARVO_IMPLEMENT_CLASS(TOrdGadget)
+TARVO_PUBLISH(TOrdGadget) {
+  Property("Gain", &TOrdGadget::FGain, &TOrdGadget::FGain);
+  Property("Count", &TOrdGadget::FCount, &TOrdGadget::FCount);
+  Property("Position", &TOrdGadget::FPosition, &TOrdGadget::FPosition);
+  Property("Order", &TOrdGadget::FOrder, &TOrdGadget::FOrder)
+      .Attr<MinValueAttribute>(TValue(1))
+      .Attr<MaxValueAttribute>(TValue(4));
+  Property("Channel", &TOrdGadget::FChannel, &TOrdGadget::FChannel)
+      .Attr<DesignMinAttribute>(TValue(2))
+      .Attr<DesignRangeAttribute>(TValue(1), TValue(8));
+  Property("Offset", &TOrdGadget::FOffset, &TOrdGadget::FOffset).Limits(-100, 100).Attr<SuppressRangeAttribute>();
+  Property("Crossed", &TOrdGadget::FCrossed, &TOrdGadget::FCrossed).Limits(10, 5);
+  Property("Fixed", &TOrdGadget::FFixed, &TOrdGadget::FFixed).Attr<PropertyFixedListDesignAttribute>();
+  Public();
+  Property("Inner", &TOrdGadget::FInner, &TOrdGadget::FInner);
+}
+
+namespace {
+
+using namespace Testing;
+
+class OrdinalEditorsTest : public testing::Test {
+protected:
+  OrdinalEditorsTest() { FDesigner->Select({&FFirst, &FSecond}); }
+
+  template <class E = TIntegerPropertyEditor> TRef<E> Editor(const String& AName) {
+    return MakeEditor<E>(FDesigner, AName);
+  }
+
+  std::vector<String> FLog;
+  TRef<TLoggingDesigner> FDesigner = New<TLoggingDesigner>(FLog);
+  TOrdGadget FFirst, FSecond;
+};
+
+// The hard range comes from the member's limits, the integer type's declared maximum (read as a
+// 32-bit number) or the class's defaults; the suggested one from the attributes first.
+TEST_F(OrdinalEditorsTest, HardAndSuggestedRanges) {
+  struct TRow {
+    const char* Name;
+    TRef<TRangedOrdinalPropertyEditor> Editor;
+    Int64 Min, Max, SuggestedMin, SuggestedMax;
+  };
+  const TRow rows[] = {
+      {"Gain", Editor("Gain"), INT32_MIN, 255, 0, 255},
+      {"Count", Editor<TCardinalPropertyEditor>("Count"), 0, -1, 0, -1},
+      {"Position", Editor<TInt64PropertyEditor>("Position"), INT64_MIN, INT64_MAX, INT64_MIN, INT64_MAX},
+      {"Order", Editor("Order"), INT32_MIN, 32767, 1, 4},
+      {"Channel", Editor("Channel"), INT32_MIN, INT32_MAX, 2, 8},
+      {"Offset", Editor("Offset"), -100, 100, INT32_MIN, 100},
+  };
+  ForEachRow(rows, [](const TRow& ARow) {
+    EXPECT_EQ(ARow.Editor->GetMinValue().AsInt64(), ARow.Min);
+    EXPECT_EQ(ARow.Editor->GetMaxValue().AsInt64(), ARow.Max);
+    EXPECT_EQ(ARow.Editor->GetSuggestedMinValue().AsInt64(), ARow.SuggestedMin);
+    EXPECT_EQ(ARow.Editor->GetSuggestedMaxValue().AsInt64(), ARow.SuggestedMax);
+  });
+  EXPECT_EQ(Editor<TCardinalPropertyEditor>("Count")->GetDefaultMaxValue().GetTypeInfo(), &TypeInfo_Int64);
+}
+
+// Clamped, never refused: the maximum first, an unsigned reading for a range crossed as signed
+// numbers, and the result held as an Int64.
+TEST_F(OrdinalEditorsTest, ApplyConstraintsClampsIntoTheHardRange) {
+  struct TRow {
+    const char* Name;
+    TRef<TRangedOrdinalPropertyEditor> Editor;
+    Int64 Given, Result;
+  };
+  const TRow rows[] = {
+      {"byte keeps a negative number", Editor("Gain"), -5, -5},
+      {"byte takes its declared maximum", Editor("Gain"), 300, 255},
+      {"cardinal survives by the unsigned branch", Editor<TCardinalPropertyEditor>("Count"), 4000000000, 4000000000},
+      {"limits crossed both ways give the minimum", Editor("Crossed"), 7, 10},
+      {"suppressed range still clamps", Editor("Offset"), 500, 100},
+      {"within the range", Editor("Offset"), -99, -99},
+  };
+  ForEachRow(rows, [](const TRow& ARow) {
+    const TValue result = ARow.Editor->ApplyConstraints(TValue(ARow.Given));
+    EXPECT_EQ(result.GetTypeInfo(), &TypeInfo_Int64);
+    EXPECT_EQ(result.AsInt64(), ARow.Result);
+  });
+  Editor("Offset")->SetStringValue("-500");
+  EXPECT_EQ(FFirst.FOffset, -100);
+  EXPECT_EQ(FSecond.FOffset, -100);
+}
+
+TEST_F(OrdinalEditorsTest, SuppressRangeRefusesOnlyTheQuery) {
+  EXPECT_FALSE(Supports<IPropertyRange>(Editor("Offset")));
+  EXPECT_TRUE(Supports<IPropertySuggestedRange>(Editor("Offset")));
+  EXPECT_TRUE(Supports<IPropertyRange>(Editor("Channel")));
+}
+
+TEST_F(OrdinalEditorsTest, OnlyPublishedMembersWithoutAFixedListGetASlider) {
+  EXPECT_TRUE(Supports<IPropertyEditorInplace>(Editor("Channel")));
+  EXPECT_TRUE(Supports<IPropertyEditorInplace>(Editor<TCardinalPropertyEditor>("Count")));
+  EXPECT_TRUE(Supports<IPropertyEditorInplace>(Editor<TInt64PropertyEditor>("Position")));
+  EXPECT_FALSE(Supports<IPropertyEditorInplace>(Editor("Fixed")));
+  EXPECT_FALSE(Supports<IPropertyEditorInplace>(Editor("Inner")));
+  EXPECT_FALSE(Supports<IPropertyEditorInplace>(Editor<TBasicIntegerPropertyEditor>("Channel")));
+}
+
+// The form shows the first object's value over the suggested range; a move writes every object
+// inside the bracket the bar's hold opens, and the grid is told to read the rows again.
+TEST_F(OrdinalEditorsTest, TheSliderWritesEverySelectedObject) {
+  FFirst.FChannel = 3;
+  FSecond.FChannel = 6;
+  const TRef<TIntegerPropertyEditor> editor = Editor("Channel");
+  const TRef<IPropertyEditorInplace> inplace = QueryAs<IPropertyEditorInplace>(editor);
+  QWidget grid;
+  const auto form = inplace->GetInplaceForm(&grid, New<TPaintObjects>(), nullptr, TIGXRect(0, 0, 200, 16));
+  auto* numeric = static_cast<TNumericInplaceForm*>(form->GetForm());
+  EXPECT_EQ(numeric->GetValue().AsInt64(), 3);
+  numeric->OnEditorEnter(numeric);
+  numeric->TrackBar->setValue(TNumericInplaceForm::TrackBarMax); // the suggested maximum, 8
+  numeric->OnEditorLeave(numeric);
+  EXPECT_EQ(FFirst.FChannel, 8);
+  EXPECT_EQ(FSecond.FChannel, 8);
+  EXPECT_EQ(FLog, (std::vector<String>{"BeginModify", "Modified", "EndModify"}));
+  // A write through the row moves the bar.
+  editor->SetStringValue("5");
+  EXPECT_EQ(numeric->GetValue().AsInt64(), 5);
+}
+
+} // namespace
+} // namespace Tarvo
