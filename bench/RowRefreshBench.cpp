@@ -73,7 +73,9 @@ void BM_RegistryLookup(benchmark::State& AState) {
   TOwnedObject<TComponent> generator(
       TComponentHelper::CreateComponent(TComponentClass(FindClass("TSignalGenerator")), nullptr, true, false));
   // A float, a name, an enumeration and a class-valued member of a filter; a generator's event;
-  // a hidden member of a control and an ordinary one.
+  // a hidden member of a control and an ordinary one; integers, characters and strings that the
+  // typed editors serve, by kind (Order, Separator, Description) and by registered type
+  // (SampleRate, a Cardinal).
   const std::vector<std::pair<TObject*, TRef<IMemberInfo>>> members = {
       {filter, MemberOf(filter, "Cutoff")},
       {filter, MemberOf(filter, "Name")},
@@ -81,7 +83,11 @@ void BM_RegistryLookup(benchmark::State& AState) {
       {filter, MemberOf(filter, "Font")},
       {generator.get(), MemberOf(generator.get(), "OnStart")},
       {shape.get(), MemberOf(shape.get(), "Left")},
-      {shape.get(), MemberOf(shape.get(), "Shape")}};
+      {shape.get(), MemberOf(shape.get(), "Shape")},
+      {filter, MemberOf(filter, "Order")},
+      {filter, MemberOf(filter, "Separator")},
+      {filter, MemberOf(filter, "Description")},
+      {generator.get(), MemberOf(generator.get(), "SampleRate")}};
   for (const auto& [object, member] : members)
     if (!member) AState.SkipWithError("a member of the benchmark is missing");
   for (auto _ : AState)

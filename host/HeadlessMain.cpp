@@ -1,8 +1,11 @@
 // tarvo-inspect: the headless host. Prints the inspector's rows of a design's selected
 // components as the package decides them; see --help.
 
+#include <QApplication>
+
 #include <filesystem>
 #include <iostream>
+#include <optional>
 
 #include "host/headless/HostSession.h"
 
@@ -14,6 +17,14 @@ Tarvo::TInspectPaths BundledPaths() {
   return {(directory / "libtarvo_samples.so").string(), (directory / "designs" / "sample.json").string()};
 }
 
+// Qt's notice that it picked a runtime directory itself says nothing to a user of a tool that
+// needs no session; everything else Qt says is passed on.
+QtMessageHandler GQtMessages = nullptr;
+void FilterQtMessages(QtMsgType AType, const QMessageLogContext& AContext, const QString& AMessage) {
+  if (!AMessage.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+    GQtMessages(AType, AContext, AMessage);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -22,6 +33,14 @@ int main(int argc, char** argv) {
     if (options.Help) {
       std::cout << Tarvo::InspectUsage;
       return 0;
+    }
+    // A list of values may come from the platform (the machine's fonts), which needs an
+    // application object, though no screen.
+    std::optional<QApplication> application;
+    if (options.Values) {
+      if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+      GQtMessages = qInstallMessageHandler(FilterQtMessages);
+      application.emplace(argc, argv);
     }
     // Nothing is printed before the whole run has succeeded.
     std::cout << Tarvo::RunInspect(options, BundledPaths());

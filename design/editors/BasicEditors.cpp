@@ -4,6 +4,7 @@
 
 #include "design/Registry.h"
 #include "design/SinglePropertyEditor.h"
+#include "design/editors/EditorFamilies.h"
 #include "reflection/RowAttributes.h"
 #include "reflection/RttiTypes.h"
 #include "runtime/Collection.h"

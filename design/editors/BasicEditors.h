@@ -45,7 +45,4 @@ public:
 // members; a type met before in the walk is not looked at again.
 void RegisterHiddenMembers(TClass AComponentClass);
 
-// The family's start-up lines, in their order, and its part of the fallback.
-void RegisterBasicEditors();
-
 } // namespace Tarvo

@@ -1,6 +1,7 @@
 #include "design/editors/CharEditors.h"
 
 #include "design/Registry.h"
+#include "design/editors/EditorFamilies.h"
 #include "rtl/SysUtils.h"
 
 namespace Tarvo {

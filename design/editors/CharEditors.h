@@ -35,7 +35,4 @@ public:
   TValue GetDefaultMaxValue() override;
 };
 
-// The family's kinds of the fallback.
-void RegisterCharEditors();
-
 } // namespace Tarvo

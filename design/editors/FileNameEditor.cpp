@@ -1,6 +1,7 @@
 #include "design/editors/FileNameEditor.h"
 
 #include "design/Registry.h"
+#include "design/editors/EditorFamilies.h"
 #include "platform/OpenFileDialog.h"
 #include "reflection/StringAttributes.h"
 #include "runtime/NamedTypes.h"

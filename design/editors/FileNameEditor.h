@@ -18,7 +18,4 @@ public:
   void Execute(QWidget* AOwner) override;
 };
 
-// The family's start-up line.
-void RegisterFileNameEditors();
-
 } // namespace Tarvo

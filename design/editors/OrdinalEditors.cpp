@@ -1,10 +1,11 @@
 #include "design/editors/OrdinalEditors.h"
 
 #include "design/Registry.h"
+#include "design/editors/EditorFamilies.h"
 #include "design/paint/InplaceFormController.h"
 #include "forms/RangedInplaceForm.h"
-#include "reflection/RowAttributes.h"
 #include "reflection/RangeAttributes.h"
+#include "reflection/RowAttributes.h"
 
 namespace Tarvo {
 
@@ -72,10 +73,14 @@ TValue TRangedOrdinalPropertyEditor::GetMaxValue() {
 TValue TRangedOrdinalPropertyEditor::GetSuggestedMinValue() {
   const TRef<IMemberInfo> member = GetFirstMember();
   TValue result;
-  if (AttributeValue<DesignMinAttribute>(member, [](const auto& A) { return A.Value(); }, result) ||
-      AttributeValue<DesignRangeAttribute>(member, [](const auto& A) { return A.MinValue(); }, result) ||
-      AttributeValue<MinValueAttribute>(member, [](const auto& A) { return A.Value(); }, result) ||
-      AttributeValue<ValueRangeAttribute>(member, [](const auto& A) { return A.MinValue(); }, result))
+  if (AttributeValue<DesignMinAttribute>(
+          member, [](const auto& A) { return A.Value(); }, result) ||
+      AttributeValue<DesignRangeAttribute>(
+          member, [](const auto& A) { return A.MinValue(); }, result) ||
+      AttributeValue<MinValueAttribute>(
+          member, [](const auto& A) { return A.Value(); }, result) ||
+      AttributeValue<ValueRangeAttribute>(
+          member, [](const auto& A) { return A.MinValue(); }, result))
     return result;
   if (const PTypeInfo type = IntegerType(member)) return TValue(type->MinValue);
   return GetMinValue();
@@ -84,10 +89,14 @@ TValue TRangedOrdinalPropertyEditor::GetSuggestedMinValue() {
 TValue TRangedOrdinalPropertyEditor::GetSuggestedMaxValue() {
   const TRef<IMemberInfo> member = GetFirstMember();
   TValue result;
-  if (AttributeValue<DesignMaxAttribute>(member, [](const auto& A) { return A.Value(); }, result) ||
-      AttributeValue<DesignRangeAttribute>(member, [](const auto& A) { return A.MaxValue(); }, result) ||
-      AttributeValue<MaxValueAttribute>(member, [](const auto& A) { return A.Value(); }, result) ||
-      AttributeValue<ValueRangeAttribute>(member, [](const auto& A) { return A.MaxValue(); }, result))
+  if (AttributeValue<DesignMaxAttribute>(
+          member, [](const auto& A) { return A.Value(); }, result) ||
+      AttributeValue<DesignRangeAttribute>(
+          member, [](const auto& A) { return A.MaxValue(); }, result) ||
+      AttributeValue<MaxValueAttribute>(
+          member, [](const auto& A) { return A.Value(); }, result) ||
+      AttributeValue<ValueRangeAttribute>(
+          member, [](const auto& A) { return A.MaxValue(); }, result))
     return result;
   return GetMaxValue();
 }

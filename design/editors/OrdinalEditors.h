@@ -109,7 +109,4 @@ public:
 extern template class TNumericSliderEditor<TRangedOrdinalPropertyEditor>;
 extern template class TNumericSliderEditor<TBasicIntegerPropertyEditor>;
 
-// The family's start-up line and its kinds of the fallback.
-void RegisterOrdinalEditors();
-
 } // namespace Tarvo

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include "design/Registry.h"
+#include "design/editors/EditorFamilies.h"
 #include "forms/AdvancedStringsEditorForm.h"
 #include "platform/ScreenLists.h"
 #include "reflection/StringAttributes.h"

@@ -60,8 +60,7 @@ public:
   using TSinglePropertyEditor::TSinglePropertyEditor;
 };
 
-class TARVO_API TImeNamePropertyEditor
-    : public TImplements<TStringPropertyEditor, IPropertyEditorDropDownStringList> {
+class TARVO_API TImeNamePropertyEditor : public TImplements<TStringPropertyEditor, IPropertyEditorDropDownStringList> {
   TARVO_CLASS(TImeNamePropertyEditor, TImplements<TStringPropertyEditor, IPropertyEditorDropDownStringList>)
 public:
   using TImplements::TImplements;
@@ -82,9 +81,8 @@ public:
   void ListGetSize(const TValue& AValue, const TRef<IGXGraphics>& AGraphics, const TRef<IPaintObjects>& APaintObjects,
                    const TRef<IPaintObjectSet>& APaintObjectSet, TIGXSize& ASize) override;
   // "Name - " in the row's font, then "(ABC)" in the font named.
-  void ListDrawValue(const TValue& AValue, const TRef<IGXGraphics>& AGraphics,
-                     const TRef<IPaintObjects>& APaintObjects, const TRef<IPaintObjectSet>& APaintObjectSet,
-                     const TIGXRect& ARect, Boolean ASelected) override;
+  void ListDrawValue(const TValue& AValue, const TRef<IGXGraphics>& AGraphics, const TRef<IPaintObjects>& APaintObjects,
+                     const TRef<IPaintObjectSet>& APaintObjectSet, const TIGXRect& ARect, Boolean ASelected) override;
 
 private:
   // The off-screen surface the list rows are drawn on, and the font of its canvas.
@@ -93,8 +91,5 @@ private:
   // Row heights by font name.
   std::unordered_map<String, Integer> FFontHeights;
 };
-
-// The family's start-up lines and its kinds of the fallback.
-void RegisterStringEditors();
 
 } // namespace Tarvo

@@ -21,7 +21,9 @@ TARVO_SET(TShiftState, TShiftStateItem)
 class TARVO_API IMemberUIUpdate : public virtual IInterface {
   TARVO_INTERFACE(IMemberUIUpdate, "{4E91A1D4-7DF0-4B61-9F98-C41C5BC13363}", IInterface)
 public:
-  // The editing of the row ended: the grid drops forms and gestures that belong to it.
+  // The editing of the row's text ended: the grid closes its text edit and the gestures of the
+  // row. An in-place form says so after each change it writes, so the grid keeps the form open
+  // until the form closes or the row is left.
   virtual void EndEdit() = 0;
   // Repaints the row as it stands.
   virtual void Invalidate() = 0;

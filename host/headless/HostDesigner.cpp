@@ -15,4 +15,9 @@ String THostDesigner::UniqueName(const String& ABaseName) {
   }
 }
 
+void THostDesigner::Modified() {
+  ++FModifiedCount;
+  TDesigner::Modified();
+}
+
 } // namespace Tarvo

@@ -14,12 +14,17 @@ const char* const InspectUsage = "usage: tarvo-inspect [options]\n"
                                  "  --reset PATH           reset the row to its default (repeatable, in order)\n"
                                  "  --expand PATH          show the sub-rows of a row (repeatable)\n"
                                  "  --expand-all           show the sub-rows of every row\n"
-                                 "  --json                 print the rows as JSON\n"
+                                 "  --values PATH          print the row's list of values, one a line, instead of\n"
+                                 "                         the rows (after the edits)\n"
+                                 "  --json                 print the rows as JSON: an array of row objects, a\n"
+                                 "                         \"range\" and \"suggested_range\" [min, max] in those\n"
+                                 "                         whose editor has them; with --values, an array of strings\n"
                                  "  --list-classes         print the registered component classes and their pages\n"
                                  "  --help                 print this text\n"
                                  "\n"
                                  "A PATH names a row by member names joined with \".\", as in Font.Size.\n"
-                                 "Markers after a row: * differs from the default, [ro] read-only, + expands.\n";
+                                 "Markers after a row: * differs from the default, [ro] read-only, + expands.\n"
+                                 "A --set whose text the row's editor does not take is an error.\n";
 
 namespace {
 
@@ -55,7 +60,10 @@ TInspectOptions ParseInspectOptions(const std::vector<String>& AArguments) {
     } else if (option == "--reset") options.Edits.push_back({TInspectEdit::ekReset, argument(), String()});
     else if (option == "--expand") options.Expand.push_back(argument());
     else if (option == "--expand-all") options.ExpandAll = true;
-    else if (option == "--json") options.Json = true;
+    else if (option == "--values") {
+      if (options.Values) throw EInspectError("--values may be given once");
+      options.Values = argument();
+    } else if (option == "--json") options.Json = true;
     else if (option == "--list-classes") options.ListClasses = true;
     else if (option == "--help" || option == "-h") options.Help = true;
     else throw EInspectError("unknown option \"" + option + "\" (see --help)");

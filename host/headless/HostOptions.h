@@ -1,6 +1,7 @@
 #pragma once
 // The command line of tarvo-inspect.
 
+#include <optional>
 #include <vector>
 
 #include "host/headless/RowModel.h"
@@ -19,6 +20,7 @@ struct TInspectOptions {
   std::vector<String> Select;      // empty: the first component of the design
   std::vector<TInspectEdit> Edits; // in command-line order
   std::vector<String> Expand;
+  std::optional<String> Values; // the row whose list of values is printed instead of the rows
   Boolean ExpandAll = false;
   Boolean Json = false;
   Boolean ListClasses = false;

@@ -53,6 +53,15 @@ void Select(IDesigner& ADesigner, TComponent* ARoot, const std::vector<String>& 
   ADesigner.SetSelection(selection);
 }
 
+// Text an editor can't take is dropped without a word (a fixed list lacks it, the converter
+// refuses it), while every write ends in the designer's Modified: no notice, no write.
+void SetValue(TRowModel& AInspector, const THostDesigner& ADesigner, const TInspectEdit& AEdit) {
+  const Integer notices = ADesigner.ModifiedCount();
+  AInspector.SetValue(AEdit.Path, AEdit.Text);
+  if (ADesigner.ModifiedCount() == notices)
+    throw EInspectError(AInspector.Find(AEdit.Path).Path + ": \"" + AEdit.Text + "\" was not accepted");
+}
+
 } // namespace
 
 String RunInspect(const TInspectOptions& AOptions, const TInspectPaths& APaths) {
@@ -65,18 +74,22 @@ String RunInspect(const TInspectOptions& AOptions, const TInspectPaths& APaths) 
   // The root goes before the modules that hold the classes of its components.
   const TOwnedObject<TComponent> root(TComponentHelper::CreateComponent(TComponent::ClassInfo(), nullptr, true, false));
   ReadDesignFile(AOptions.DesignFile.empty() ? APaths.SampleDesign : AOptions.DesignFile, root.get());
-  const TRef<IDesigner> designer = New<THostDesigner>(root.get());
+  const TRef<THostDesigner> designer = New<THostDesigner>(root.get());
   Select(*designer, root.get(), AOptions.Select);
 
   TRowModel inspector(designer);
   inspector.Refresh();
   for (const TInspectEdit& edit : AOptions.Edits) {
-    if (edit.Kind == TInspectEdit::ekSet) inspector.SetValue(edit.Path, edit.Text);
+    if (edit.Kind == TInspectEdit::ekSet) SetValue(inspector, *designer, edit);
     else inspector.ResetValue(edit.Path);
     inspector.Refresh();
   }
   for (const String& path : AOptions.Expand) inspector.Expand(inspector.Find(path));
   if (AOptions.ExpandAll) inspector.ExpandAll();
+  if (AOptions.Values) {
+    const std::vector<String> values = inspector.Values(*AOptions.Values);
+    return AOptions.Json ? ValuesToJson(values) : ValuesToText(values);
+  }
   return AOptions.Json ? RowsToJson(inspector.Rows()) : RowsToText(inspector.Rows());
 }
 

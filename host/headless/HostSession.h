@@ -13,8 +13,9 @@ struct TInspectPaths {
   String SampleDesign;
 };
 
-// The text to print. Raises EInspectError for input that names nothing there, and passes on
-// the errors of the design file and of the editors (EDesignPropertyError among them).
+// The text to print. Raises EInspectError for input that names nothing there or text a row's
+// editor does not take, and passes on the errors of the design file and of the editors
+// (EDesignPropertyError among them).
 String RunInspect(const TInspectOptions& AOptions, const TInspectPaths& APaths);
 
 } // namespace Tarvo

@@ -6,6 +6,7 @@
 
 #include "design/Registry.h"
 #include "design/editors/BasicEditors.h"
+#include "design/paint/PropertyRange.h"
 #include "reflection/RttiTypes.h"
 #include "rtl/SysUtils.h"
 
@@ -75,6 +76,10 @@ void TRowModel::ReadRow(TInspectorRow& ARow, const String& AParentPath) {
   ARow.EditorName = editor->GetEditorName();
   ARow.ReadOnly = editor->GetIsReadOnly();
   ARow.Expandable = editor->GetIsExpandable();
+  if (TRef<IPropertyRange> range; Supports(editor, range))
+    ARow.Range = TInspectorRange{range->GetMinValue(), range->GetMaxValue()};
+  if (TRef<IPropertySuggestedRange> range; Supports(editor, range))
+    ARow.SuggestedRange = TInspectorRange{range->GetSuggestedMinValue(), range->GetSuggestedMaxValue()};
   if (TRef<IPropertyEditor> property; Supports(editor, property)) {
     ARow.Value = property->GetIsWriteOnly() ? String() : property->GetDisplayValue(nullptr);
     ARow.IsDefault = property->GetIsAllDefault();
@@ -155,5 +160,12 @@ TRef<IPropertyEditor> TRowModel::ValueEditor(const String& APath) {
 void TRowModel::SetValue(const String& APath, const String& AText) { ValueEditor(APath)->SetStringValue(AText); }
 
 void TRowModel::ResetValue(const String& APath) { ValueEditor(APath)->ResetValue(); }
+
+std::vector<String> TRowModel::Values(const String& APath) {
+  const TInspectorRow& row = Find(APath);
+  TRef<IPropertyEditorDropDownStringList> list;
+  if (!Supports(row.Editor, list)) throw EInspectError(row.Path + ": no list of values");
+  return list->GetStringListValues()->ToArray();
+}
 
 } // namespace Tarvo

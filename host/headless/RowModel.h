@@ -4,6 +4,7 @@
 // asking the registry for the member's editor classes and building the first; its texts are
 // read from that editor. Rows of a nested value are made on demand, when their parent expands.
 
+#include <optional>
 #include <vector>
 
 #include "design/SinglePropertyEditor.h"
@@ -12,6 +13,11 @@ namespace Tarvo {
 
 // Input that names nothing the inspector has, or asks what a row can't do.
 TARVO_DECLARE_EXCEPTION(EInspectError, Exception)
+
+struct TInspectorRange {
+  TValue Min;
+  TValue Max;
+};
 
 struct TInspectorRow {
   String Path; // member names from the top row down, joined by "."
@@ -23,6 +29,8 @@ struct TInspectorRow {
   Boolean ReadOnly = true;
   Boolean Expandable = false;
   Boolean Expanded = false;
+  std::optional<TInspectorRange> Range;          // when the editor answers IPropertyRange
+  std::optional<TInspectorRange> SuggestedRange; // when it answers IPropertySuggestedRange
   TRef<IMemberEditor> Editor;
   std::vector<TInspectorRow> Children;
 };
@@ -47,6 +55,8 @@ public:
   // Through the row editor's own text conversion, to every selected object.
   void SetValue(const String& APath, const String& AText);
   void ResetValue(const String& APath);
+  // The drop-down list of the row's editor, as it gives it.
+  std::vector<String> Values(const String& APath);
 
 private:
   // The row of AMember on ALookupObject, or none when the package gives it no visible editor.

@@ -29,18 +29,28 @@ void AppendText(const std::vector<TInspectorRow>& ARows, Integer ALevel, String&
   }
 }
 
+// A limit as a JSON number: a float as such, anything else as its ordinal.
+nlohmann::ordered_json Limit(const TValue& AValue) {
+  if (AValue.GetTypeKind() == tkFloat) return static_cast<double>(AValue.AsExtended());
+  return AValue.AsInt64();
+}
+
 nlohmann::ordered_json ToJson(const std::vector<TInspectorRow>& ARows) {
   nlohmann::ordered_json result = nlohmann::ordered_json::array();
-  for (const TInspectorRow& row : ARows)
-    result.push_back({{"path", row.Path},
-                      {"name", row.Name},
-                      {"display_name", row.DisplayName},
-                      {"value", row.Value},
-                      {"editor", row.EditorName},
-                      {"default", row.IsDefault},
-                      {"read_only", row.ReadOnly},
-                      {"expandable", row.Expandable},
-                      {"children", ToJson(row.Children)}});
+  for (const TInspectorRow& row : ARows) {
+    nlohmann::ordered_json json = {{"path", row.Path},
+                                   {"name", row.Name},
+                                   {"display_name", row.DisplayName},
+                                   {"value", row.Value},
+                                   {"editor", row.EditorName},
+                                   {"default", row.IsDefault},
+                                   {"read_only", row.ReadOnly},
+                                   {"expandable", row.Expandable}};
+    if (row.Range) json["range"] = {Limit(row.Range->Min), Limit(row.Range->Max)};
+    if (row.SuggestedRange) json["suggested_range"] = {Limit(row.SuggestedRange->Min), Limit(row.SuggestedRange->Max)};
+    json["children"] = ToJson(row.Children);
+    result.push_back(std::move(json));
+  }
   return result;
 }
 
@@ -53,5 +63,13 @@ String RowsToText(const std::vector<TInspectorRow>& ARows) {
 }
 
 String RowsToJson(const std::vector<TInspectorRow>& ARows) { return ToJson(ARows).dump(2) + "\n"; }
+
+String ValuesToText(const std::vector<String>& AValues) {
+  String text;
+  for (const String& value : AValues) text += OneLine(value) + '\n';
+  return text;
+}
+
+String ValuesToJson(const std::vector<String>& AValues) { return nlohmann::ordered_json(AValues).dump(2) + "\n"; }
 
 } // namespace Tarvo

@@ -11,7 +11,11 @@ namespace Tarvo {
 
 String RowsToText(const std::vector<TInspectorRow>& ARows);
 // An array of objects with path, name, display_name, value, editor, default, read_only,
-// expandable and children.
+// expandable, range and suggested_range (each [min, max], only where the row has it) and children.
 String RowsToJson(const std::vector<TInspectorRow>& ARows);
+
+// A row's list of values: one entry a line, or a JSON array of strings.
+String ValuesToText(const std::vector<String>& AValues);
+String ValuesToJson(const std::vector<String>& AValues);
 
 } // namespace Tarvo

@@ -9,6 +9,7 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
+#include "platform/ScreenLists.h"
 #include "rtl/Types.h"
 #include "tests/support/NamedRows.h"
 
@@ -67,6 +68,46 @@ TEST(HeadlessToolTest, JsonRowsCarryEveryFieldOfTheRow) {
   EXPECT_EQ(*phase, nlohmann::json::parse(expected));
 }
 
+TEST(HeadlessToolTest, JsonRowsCarryTheRangesTheirEditorsAnswer) {
+  const TToolRun run = RunTool("--select Filter1 --json");
+  ASSERT_EQ(run.ExitCode, 0) << run.Err;
+  const nlohmann::json rows = nlohmann::json::parse(run.Out);
+  const struct {
+    const char* Name;
+    nlohmann::json Range;
+    nlohmann::json SuggestedRange;
+  } ranged[] = {{"Order", {-2147483648LL, 32767}, {1, 4}}, {"Decimation", {-2147483648LL, 255}, {1, 16}}};
+  Testing::ForEachRow(ranged, [&](const auto& expected) {
+    const auto row = std::find_if(rows.begin(), rows.end(),
+                                  [&](const nlohmann::json& ARow) { return ARow["name"] == expected.Name; });
+    ASSERT_NE(row, rows.end());
+    EXPECT_EQ(row->value("range", nlohmann::json()), expected.Range);
+    EXPECT_EQ(row->value("suggested_range", nlohmann::json()), expected.SuggestedRange);
+  });
+}
+
+// The font name row lists the machine's font families, as the package enumerates them here.
+TEST(HeadlessToolTest, ValuesPrintsTheRowsListOneALineOrAsAJsonArray) {
+  String lines;
+  nlohmann::json array = nlohmann::json::array();
+  for (const String& family : Tarvo::ScreenFonts()) {
+    lines += family + "\n";
+    array.push_back(family);
+  }
+  TToolRun run = RunTool("--select Scope1 --values CaptionFont");
+  ASSERT_EQ(run.ExitCode, 0) << run.Err;
+  EXPECT_EQ(run.Out, lines);
+  run = RunTool("--select Scope1 --json --values captionfont");
+  ASSERT_EQ(run.ExitCode, 0) << run.Err;
+  EXPECT_EQ(nlohmann::json::parse(run.Out), array);
+}
+
+TEST(HeadlessToolTest, TextEqualToTheCurrentValueIsAWriteAndAccepted) {
+  const TToolRun run = RunTool("--set Frequency=440");
+  ASSERT_EQ(run.ExitCode, 0) << run.Err;
+  EXPECT_NE(run.Out.find("\nFrequency = 440\n"), String::npos) << run.Out;
+}
+
 TEST(HeadlessToolTest, ListsTheRegisteredClassesWithTheirPages) {
   // The bundled module named again, twice: each load counts and is balanced by its unload.
   const String module = String(" --module ") + TARVO_SAMPLES_MODULE_PATH;
@@ -95,6 +136,11 @@ TEST(HeadlessToolTest, BadInputIsOneClearMessageWithExitCodeTwoAndNothingPrinted
       {"read-only row", "--set PeakToPeak=3", "row \"PeakToPeak\" is read-only"},
       {"row that does not expand", "--expand Frequency", "row \"Frequency\" does not expand"},
       {"value the setter refuses", "--set Frequency=-5", "Frequency must not be negative: -5"},
+      {"text the converter refuses", "--set frequency=abc", "Frequency: \"abc\" was not accepted"},
+      {"number beyond the type", "--select Scope1 --set Gain=300", "Gain: \"300\" was not accepted"},
+      {"text the editor refuses", "--select Filter1 --set Separator=xyz", "Invalid property value"},
+      {"row without a list", "--values Frequency", "Frequency: no list of values"},
+      {"list asked twice", "--values SampleRate --values Waveform", "--values may be given once"},
       {"bad design", "--design " + design, design + ": Unknown property 'Pitch' of component 'G' (TSignalGenerator)"}};
   Testing::ForEachRow(cases, [](const auto& bad) {
     const TToolRun run = RunTool(bad.Arguments);

@@ -43,9 +43,14 @@ TEST_F(CharEditorsTest, TextsThatMeanACode) {
     Integer Code;
   };
   const TRow rows[] = {
-      {"decimal after #", "#65", 65}, {"hexadecimal after $", "$41", 65}, {"0x", "0x41", 65},
-      {"0X", "0X41", 65},             {"a lone digit", "7", '7'},         {"a lone #", "#", '#'},
-      {"empty text", "", 0},          {"a letter beyond ASCII", "é", 233},
+      {"decimal after #", "#65", 65},
+      {"hexadecimal after $", "$41", 65},
+      {"0x", "0x41", 65},
+      {"0X", "0X41", 65},
+      {"a lone digit", "7", '7'},
+      {"a lone #", "#", '#'},
+      {"empty text", "", 0},
+      {"a letter beyond ASCII", "é", 233},
   };
   ForEachRow(rows, [this](const TRow& ARow) {
     FNarrow->SetStringValue(ARow.Text);
@@ -76,9 +81,9 @@ TEST_F(CharEditorsTest, PrintableCodesShowAsThemselves) {
     String Narrow, Wide, WideDisplay;
   };
   const TRow rows[] = {
-      {"control", 9, "#9", "#9", "#9"},           {"blank", 32, "#32", " ", "' '"},
-      {"letter", 65, "A", "A", "'A'"},             {"127", 127, "\x7f", "\x7f", "'\x7f'"},
-      {"128", 128, "#128", "#128", "#128"},        {"beyond a byte", 955, "", "#955", "#955"},
+      {"control", 9, "#9", "#9", "#9"},     {"blank", 32, "#32", " ", "' '"},
+      {"letter", 65, "A", "A", "'A'"},      {"127", 127, "\x7f", "\x7f", "'\x7f'"},
+      {"128", 128, "#128", "#128", "#128"}, {"beyond a byte", 955, "", "#955", "#955"},
   };
   ForEachRow(rows, [this](const TRow& ARow) {
     FGadget.FWide = WideChar(ARow.Code);

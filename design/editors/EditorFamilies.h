@@ -1,0 +1,20 @@
+#pragma once
+// The start-up of each editor family: its registry lines and its part of the fallback, the table
+// that gives a member with no registered editor the editor of its kind. The package calls them
+// in its start-up order; each is defined in its family's source.
+
+namespace Tarvo {
+
+// THiddenEditor's lines, and the base value editor for every kind until a typed family takes the
+// kind over; so it comes first.
+void RegisterBasicEditors();
+// Integers of every width, with Cardinal registered by type.
+void RegisterOrdinalEditors();
+// 8-bit and wide characters.
+void RegisterCharEditors();
+// Strings, multi-line strings, wide strings, font, input method and component names.
+void RegisterStringEditors();
+// File names picked in an open dialog.
+void RegisterFileNameEditors();
+
+} // namespace Tarvo
