@@ -1,5 +1,8 @@
 #include "design/editors/CharEditors.h"
 
+#include <limits>
+#include <type_traits>
+
 #include "design/Registry.h"
 #include "design/editors/EditorFamilies.h"
 #include "rtl/SysUtils.h"
@@ -11,28 +14,13 @@ TARVO_IMPLEMENT_CLASS(TWideCharPropertyEditor)
 
 namespace {
 
-// What tells the two character editors apart.
-struct TCharKind {
-  Integer FirstPrintable;
-  TValue (*Make)(Integer ACode);
-};
-
-const TCharKind AnsiChars{33, [](Integer ACode) { return TValue::From(AnsiChar(ACode)); }};
-const TCharKind WideChars{32, [](Integer ACode) { return TValue::From(WideChar(ACode)); }};
-
+// An 8-bit character shows a blank by its code, a wide one as itself.
+template <class C> constexpr Integer FirstPrintable = std::is_same_v<C, AnsiChar> ? 33 : 32;
 constexpr Integer LastPrintable = 127;
+template <class C> constexpr Integer LastCode = std::numeric_limits<std::make_unsigned_t<C>>::max();
 
+template <class C> TValue CharValue(Integer ACode) { return TValue::From(C(ACode)); }
 Integer CodeOf(const TValue& AValue) { return Integer(AValue.AsOrdinal()); }
-
-TRef<IStringArrayList> CharTexts(const TRef<IValueArrayList>& AValues, const TCharKind& AKind, Boolean AQuoted) {
-  const TRef<IStringArrayList> result = New<TStringArrayList>();
-  for (const TValue& value : AValues) {
-    const Integer code = CodeOf(value);
-    if (code < AKind.FirstPrintable || code > LastPrintable) result->Add(Format("#%d", {code}));
-    else result->Add(AQuoted ? "'" + String(1, char(code)) + "'" : String(1, char(code)));
-  }
-  return result;
-}
 
 // A code after "#" (decimal), or a whole text in "$" or "0x" hexadecimal; a plain number is not
 // taken, so that a lone digit can stand for itself.
@@ -55,41 +43,40 @@ Integer ReadCode(const String& AText, const TRef<IMemberInfo>& AMember) {
   return code;
 }
 
-TValue ClampCode(const TValue& AValue, const TValue& AMin, const TValue& AMax, const TCharKind& AKind) {
-  Integer code = CodeOf(AValue);
-  if (code > CodeOf(AMax)) code = CodeOf(AMax);
-  if (code < CodeOf(AMin)) code = CodeOf(AMin);
-  return AKind.Make(code);
-}
-
 } // namespace
 
-TValue TAnsiCharPropertyEditor::ApplyConstraints(const TValue& AValue) {
-  return ClampCode(AValue, GetMinValue(), GetMaxValue(), AnsiChars);
+template <class C> TValue TCharPropertyEditor<C>::ApplyConstraints(const TValue& AValue) {
+  Integer code = CodeOf(AValue);
+  if (code > CodeOf(GetMaxValue())) code = CodeOf(GetMaxValue());
+  if (code < CodeOf(GetMinValue())) code = CodeOf(GetMinValue());
+  return CharValue<C>(code);
 }
-TRef<IStringArrayList> TAnsiCharPropertyEditor::GetStringValues(const TRef<IObjectArrayList>& AObjectsList) {
-  return CharTexts(GetInstanceValues(AObjectsList), AnsiChars, false);
-}
-void TAnsiCharPropertyEditor::SetStringValue(const String& AValue) {
-  SetInstanceValues(AnsiChars.Make(ReadCode(AValue, GetFirstMember())));
-}
-TValue TAnsiCharPropertyEditor::GetDefaultMinValue() { return AnsiChars.Make(0); }
-TValue TAnsiCharPropertyEditor::GetDefaultMaxValue() { return AnsiChars.Make(255); }
 
-TValue TWideCharPropertyEditor::ApplyConstraints(const TValue& AValue) {
-  return ClampCode(AValue, GetMinValue(), GetMaxValue(), WideChars);
+template <class C>
+TRef<IStringArrayList> TCharPropertyEditor<C>::CharTexts(const TRef<IObjectArrayList>& AObjectsList, Boolean AQuoted) {
+  const TRef<IStringArrayList> result = New<TStringArrayList>();
+  for (const TValue& value : GetInstanceValues(AObjectsList)) {
+    const Integer code = CodeOf(value);
+    if (code < FirstPrintable<C> || code > LastPrintable) result->Add(Format("#%d", {code}));
+    else result->Add(AQuoted ? "'" + String(1, char(code)) + "'" : String(1, char(code)));
+  }
+  return result;
 }
-TRef<IStringArrayList> TWideCharPropertyEditor::GetStringValues(const TRef<IObjectArrayList>& AObjectsList) {
-  return CharTexts(GetInstanceValues(AObjectsList), WideChars, false);
+
+template <class C>
+TRef<IStringArrayList> TCharPropertyEditor<C>::GetStringValues(const TRef<IObjectArrayList>& AObjectsList) {
+  return CharTexts(AObjectsList, false);
 }
-TRef<IStringArrayList> TWideCharPropertyEditor::GetDisplayValues(const TRef<IObjectArrayList>& AObjectsList) {
-  return CharTexts(GetInstanceValues(AObjectsList), WideChars, true);
+
+template <class C> void TCharPropertyEditor<C>::SetStringValue(const String& AValue) {
+  SetInstanceValues(CharValue<C>(ReadCode(AValue, GetFirstMember())));
 }
-void TWideCharPropertyEditor::SetStringValue(const String& AValue) {
-  SetInstanceValues(WideChars.Make(ReadCode(AValue, GetFirstMember())));
-}
-TValue TWideCharPropertyEditor::GetDefaultMinValue() { return WideChars.Make(0); }
-TValue TWideCharPropertyEditor::GetDefaultMaxValue() { return WideChars.Make(65535); }
+
+template <class C> TValue TCharPropertyEditor<C>::GetDefaultMinValue() { return CharValue<C>(0); }
+template <class C> TValue TCharPropertyEditor<C>::GetDefaultMaxValue() { return CharValue<C>(LastCode<C>); }
+
+template class TCharPropertyEditor<AnsiChar>;
+template class TCharPropertyEditor<WideChar>;
 
 void RegisterCharEditors() {
   DefaultEditorClasses.ByTypeKind[tkChar] = TAnsiCharPropertyEditor::ClassInfo();

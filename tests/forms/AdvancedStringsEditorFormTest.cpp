@@ -7,23 +7,14 @@
 #include "forms/AdvancedStringsEditorForm.h"
 #include "platform/ModalSeam.h"
 #include "tests/support/NamedRows.h"
+#include "tests/support/StringLines.h"
 
 namespace Tarvo {
 namespace AdvancedStringsEditorFormTesting {
 
-using TLines = std::vector<String>;
-
-TLines LinesOf(const TStrings& AStrings) {
-  TLines lines;
-  for (Integer i = 0; i < AStrings.Count(); ++i) lines.push_back(AStrings.Strings(i));
-  return lines;
-}
-
-TOwnedObject<TStringList> ListOf(const TLines& ALines) {
-  TOwnedObject<TStringList> list(Construct<TStringList>());
-  for (const String& line : ALines) list->Add(line);
-  return list;
-}
+using Testing::LinesOf;
+using Testing::ListOf;
+using Testing::TLines;
 
 TAdvancedStringsEditorForm* FormOf(QDialog& ADialog) {
   auto* form = dynamic_cast<TAdvancedStringsEditorForm*>(&ADialog);

@@ -3,23 +3,14 @@
 #include "runtime/Graphics.h"
 #include "runtime/Strings.h"
 #include "tests/support/NamedRows.h"
+#include "tests/support/StringLines.h"
 
 namespace Tarvo {
 namespace {
 
-using TLines = std::vector<String>;
-
-TLines LinesOf(const TStrings& AStrings) {
-  TLines lines;
-  for (Integer i = 0; i < AStrings.Count(); ++i) lines.push_back(AStrings.Strings(i));
-  return lines;
-}
-
-TOwnedObject<TStringList> ListOf(const TLines& ALines) {
-  TOwnedObject<TStringList> list(Construct<TStringList>());
-  for (const String& line : ALines) list->Add(line);
-  return list;
-}
+using Testing::LinesOf;
+using Testing::ListOf;
+using Testing::TLines;
 
 String ErrorOf(const std::function<void()>& AAction) {
   try {
