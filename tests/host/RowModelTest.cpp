@@ -128,9 +128,7 @@ TEST_F(RowModelTest, EveryWriteSendsOneModifiedNoticeAndDroppedTextNone) {
     const char* ValueAfter;
   } writes[] = {{"text the converter refuses", "Frequency", "abc", 0, "440"},
                 {"the value the row has", "Frequency", "440", 1, "440"},
-                {"a new value", "Frequency", "1500", 1, "1500"},
-                {"a number beyond the type", "SampleRate", "5000000000", 0, "48000"},
-                {"a number the type holds", "SampleRate", "96000", 1, "96000"}};
+                {"a number beyond the type", "SampleRate", "5000000000", 0, "48000"}};
   Select({"Generator1"});
   Testing::ForEachRow(writes, [&](const auto& write) {
     const Integer before = FDesigner->ModifiedCount();

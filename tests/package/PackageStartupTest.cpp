@@ -14,9 +14,8 @@
 #include "reflection/RttiTypes.h"
 #include "rtl/Module.h"
 #include "runtime/Controls.h"
-#include "runtime/NamedTypes.h"
 #include "runtime/Shape.h"
-#include "tests/support/NamedRows.h"
+#include "tests/design/editors/TypedEditorTest.h"
 
 namespace Tarvo {
 
@@ -42,36 +41,6 @@ public:
 TARVO_IMPLEMENT_CLASS(TStartupTestWidget)
 TARVO_PUBLISH(TStartupTestWidget) {
   Property("Secret", &TStartupTestWidget::FSecret, &TStartupTestWidget::FSecret).Attr<HiddenDesignAttribute>();
-}
-
-// One member of each type that the typed editors of the start-up serve.
-class TStartupTestTyped : public TComponent {
-  TARVO_CLASS(TStartupTestTyped, TComponent)
-public:
-  TStartupTestTyped() : TComponent(nullptr) {}
-  Byte FByte = 0;
-  Cardinal FCardinal = 0;
-  Int64 FInt64 = 0;
-  AnsiChar FAnsi = 0;
-  WideChar FWide = 0;
-  String FText;
-};
-TARVO_IMPLEMENT_CLASS(TStartupTestTyped)
-TARVO_PUBLISH(TStartupTestTyped) {
-  using T = TStartupTestTyped;
-  Property("Byte", &T::FByte, &T::FByte);
-  Property("Cardinal", &T::FCardinal, &T::FCardinal);
-  Property("Int64", &T::FInt64, &T::FInt64);
-  Property("AnsiChar", &T::FAnsi, &T::FAnsi);
-  Property("WideChar", &T::FWide, &T::FWide);
-  Property("String", &T::FText, &T::FText);
-  Property("ShortString", &T::FText, &T::FText, &TypeInfo_ShortString);
-  Property("MultiLine", &T::FText, &T::FText).Attr<MultiLineAttribute>();
-  Property("WideString", &T::FText, &T::FText, &TypeInfo_WideString);
-  Property("WideMultiLine", &T::FText, &T::FText, &TypeInfo_WideString).Attr<MultiLineAttribute>();
-  Property("FontName", &T::FText, &T::FText, &TypeInfo_TFontName);
-  Property("ImeName", &T::FText, &T::FText, &TypeInfo_TImeName);
-  Property("FileName", &T::FText, &T::FText, &TypeInfo_TAttributedFileName);
 }
 
 namespace {
@@ -153,22 +122,14 @@ TEST_F(PackageRegistrationsTest, TypedEditorsServeTheirKindsAndTypes) {
     const char* Editor;
   };
   const TRow rows[] = {
-      {"Byte", "TIntegerPropertyEditor"},
-      {"Cardinal", "TCardinalPropertyEditor"},
-      {"Int64", "TInt64PropertyEditor"},
-      {"AnsiChar", "TAnsiCharPropertyEditor"},
-      {"WideChar", "TWideCharPropertyEditor"},
-      {"String", "TStringPropertyEditor"},
-      {"ShortString", "TStringPropertyEditor"},
-      {"MultiLine", "TMultiLineStringPropertyEditor"},
-      {"WideString", "TWideStringPropertyEditor"},
-      {"WideMultiLine", "TWideStringPropertyEditor"},
-      {"FontName", "TFontNamePropertyEditor"},
-      {"ImeName", "TImeNamePropertyEditor"},
-      {"FileName", "TAttributedFileNameEdit"},
-      {"Name", "TNamePropertyEditor"},
+      {"Gain", "TIntegerPropertyEditor"},        {"Count", "TCardinalPropertyEditor"},
+      {"Narrow", "TAnsiCharPropertyEditor"},     {"Wide", "TWideCharPropertyEditor"},
+      {"Notes", "TStringPropertyEditor"},        {"MultiLine", "TMultiLineStringPropertyEditor"},
+      {"WideText", "TWideStringPropertyEditor"}, {"WideMultiLine", "TWideStringPropertyEditor"},
+      {"FontName", "TFontNamePropertyEditor"},   {"ImeName", "TImeNamePropertyEditor"},
+      {"File", "TAttributedFileNameEdit"},       {"Name", "TNamePropertyEditor"},
   };
-  TStartupTestTyped typed;
+  TTypedGadget typed;
   Testing::ForEachRow(rows, [&](const TRow& ARow) { EXPECT_EQ(EditorOf(&typed, ARow.Name), ARow.Editor); });
 }
 

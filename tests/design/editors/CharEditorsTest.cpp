@@ -1,38 +1,19 @@
 #include <gtest/gtest.h>
 
 #include "design/editors/CharEditors.h"
-#include "reflection/Publish.h"
-#include "tests/design/EditorTestSupport.h"
+#include "tests/design/editors/TypedEditorTest.h"
 #include "tests/rtl/ExpectError.h"
 
 namespace Tarvo {
-
-class TChrGadget : public TComponent {
-  TARVO_CLASS(TChrGadget, TComponent)
-public:
-  TChrGadget() : TComponent(nullptr) {}
-  AnsiChar FNarrow = 'x';
-  WideChar FWide = u'x';
-};
-TARVO_IMPLEMENT_CLASS(TChrGadget)
-TARVO_PUBLISH(TChrGadget) {
-  Property("Narrow", &TChrGadget::FNarrow, &TChrGadget::FNarrow);
-  Property("Wide", &TChrGadget::FWide, &TChrGadget::FWide);
-}
 
 namespace {
 
 using namespace Testing;
 
-class CharEditorsTest : public testing::Test {
+class CharEditorsTest : public TypedEditorTest {
 protected:
-  CharEditorsTest() { FDesigner->Select({&FGadget}); }
-
-  std::vector<String> FLog;
-  TRef<TLoggingDesigner> FDesigner = New<TLoggingDesigner>(FLog);
-  TChrGadget FGadget;
-  TRef<TAnsiCharPropertyEditor> FNarrow = MakeEditor<TAnsiCharPropertyEditor>(FDesigner, "Narrow");
-  TRef<TWideCharPropertyEditor> FWide = MakeEditor<TWideCharPropertyEditor>(FDesigner, "Wide");
+  TRef<TAnsiCharPropertyEditor> FNarrow = Editor<TAnsiCharPropertyEditor>("Narrow");
+  TRef<TWideCharPropertyEditor> FWide = Editor<TWideCharPropertyEditor>("Wide");
 };
 
 // One character stands for itself; a longer text is a code after "#", "$" or "0x".
@@ -54,12 +35,12 @@ TEST_F(CharEditorsTest, TextsThatMeanACode) {
   };
   ForEachRow(rows, [this](const TRow& ARow) {
     FNarrow->SetStringValue(ARow.Text);
-    EXPECT_EQ(Byte(FGadget.FNarrow), ARow.Code);
+    EXPECT_EQ(Byte(FFirst.FNarrow), ARow.Code);
     FWide->SetStringValue(ARow.Text);
-    EXPECT_EQ(FGadget.FWide, ARow.Code);
+    EXPECT_EQ(FFirst.FWide, ARow.Code);
   });
   FWide->SetStringValue("Ω");
-  EXPECT_EQ(FGadget.FWide, u'Ω');
+  EXPECT_EQ(FFirst.FWide, u'Ω');
 }
 
 // Refused before anything is written, with the fixed texts.
@@ -68,8 +49,8 @@ TEST_F(CharEditorsTest, RefusedTextsWriteNothing) {
   ExpectError<EDesignPropertyError>([this] { FNarrow->SetStringValue("#x1"); }, "Invalid property value");
   ExpectError<EDesignPropertyError>([this] { FNarrow->SetStringValue("#300"); }, "Value must be between 0 and 255");
   ExpectError<EDesignPropertyError>([this] { FWide->SetStringValue("#65536"); }, "Value must be between 0 and 65535");
-  EXPECT_EQ(FGadget.FNarrow, 'x');
-  EXPECT_EQ(FGadget.FWide, u'x');
+  EXPECT_EQ(FFirst.FNarrow, 'x');
+  EXPECT_EQ(FFirst.FWide, u'x');
   EXPECT_TRUE(FLog.empty());
 }
 
@@ -86,11 +67,11 @@ TEST_F(CharEditorsTest, PrintableCodesShowAsThemselves) {
       {"128", 128, "#128", "#128", "#128"}, {"beyond a byte", 955, "", "#955", "#955"},
   };
   ForEachRow(rows, [this](const TRow& ARow) {
-    FGadget.FWide = WideChar(ARow.Code);
+    FFirst.FWide = FSecond.FWide = WideChar(ARow.Code);
     EXPECT_EQ(FWide->GetStringValues(nullptr)->GetItem(0), ARow.Wide);
     EXPECT_EQ(FWide->GetDisplayValue(nullptr), ARow.WideDisplay);
     if (ARow.Code > 255) return;
-    FGadget.FNarrow = AnsiChar(ARow.Code);
+    FFirst.FNarrow = FSecond.FNarrow = AnsiChar(ARow.Code);
     EXPECT_EQ(FNarrow->GetDisplayValue(nullptr), ARow.Narrow);
   });
 }

@@ -3,56 +3,19 @@
 #include "design/editors/OrdinalEditors.h"
 #include "design/paint/InplaceFormController.h"
 #include "forms/RangedInplaceForm.h"
-#include "reflection/Publish.h"
-#include "reflection/RangeAttributes.h"
-#include "reflection/RowAttributes.h"
-#include "tests/design/EditorTestSupport.h"
+#include "tests/design/editors/TypedEditorTest.h"
 
 namespace Tarvo {
-
-class TOrdGadget : public TComponent {
-  TARVO_CLASS(TOrdGadget, TComponent)
-public:
-  TOrdGadget() : TComponent(nullptr) {}
-  Byte FGain = 0;
-  Cardinal FCount = 0;
-  Int64 FPosition = 0;
-  SmallInt FOrder = 1;
-  Integer FChannel = 0, FOffset = 0, FCrossed = 0, FFixed = 0, FInner = 0;
-};
-TARVO_IMPLEMENT_CLASS(TOrdGadget)
-TARVO_PUBLISH(TOrdGadget) {
-  Property("Gain", &TOrdGadget::FGain, &TOrdGadget::FGain);
-  Property("Count", &TOrdGadget::FCount, &TOrdGadget::FCount);
-  Property("Position", &TOrdGadget::FPosition, &TOrdGadget::FPosition);
-  Property("Order", &TOrdGadget::FOrder, &TOrdGadget::FOrder)
-      .Attr<MinValueAttribute>(TValue(1))
-      .Attr<MaxValueAttribute>(TValue(4));
-  Property("Channel", &TOrdGadget::FChannel, &TOrdGadget::FChannel)
-      .Attr<DesignMinAttribute>(TValue(2))
-      .Attr<DesignRangeAttribute>(TValue(1), TValue(8));
-  Property("Offset", &TOrdGadget::FOffset, &TOrdGadget::FOffset).Limits(-100, 100).Attr<SuppressRangeAttribute>();
-  Property("Crossed", &TOrdGadget::FCrossed, &TOrdGadget::FCrossed).Limits(10, 5);
-  Property("Fixed", &TOrdGadget::FFixed, &TOrdGadget::FFixed).Attr<PropertyFixedListDesignAttribute>();
-  Public();
-  Property("Inner", &TOrdGadget::FInner, &TOrdGadget::FInner);
-}
 
 namespace {
 
 using namespace Testing;
 
-class OrdinalEditorsTest : public testing::Test {
+class OrdinalEditorsTest : public TypedEditorTest {
 protected:
-  OrdinalEditorsTest() { FDesigner->Select({&FFirst, &FSecond}); }
-
   template <class E = TIntegerPropertyEditor> TRef<E> Editor(const String& AName) {
-    return MakeEditor<E>(FDesigner, AName);
+    return TypedEditorTest::Editor<E>(AName);
   }
-
-  std::vector<String> FLog;
-  TRef<TLoggingDesigner> FDesigner = New<TLoggingDesigner>(FLog);
-  TOrdGadget FFirst, FSecond;
 };
 
 // The hard range comes from the member's limits, the integer type's declared maximum (read as a

@@ -5,48 +5,25 @@
 #include <QTemporaryFile>
 
 #include "design/editors/FileNameEditor.h"
+#include "design/editors/OrdinalEditors.h"
+#include "design/paint/PaintObjects.h"
 #include "forms/AdvancedStringsEditorForm.h"
 #include "platform/GXGraphics.h"
 #include "platform/ModalSeam.h"
-#include "reflection/Publish.h"
-#include "reflection/StringAttributes.h"
-#include "runtime/NamedTypes.h"
-#include "tests/design/EditorTestSupport.h"
+#include "tests/design/editors/TypedEditorTest.h"
 #include "tests/rtl/ExpectError.h"
 
 namespace Tarvo {
-
-class TStrGadget : public TComponent {
-  TARVO_CLASS(TStrGadget, TComponent)
-public:
-  TStrGadget() : TComponent(nullptr) {}
-  String FIdent = "start", FText = "ABC", FNotes = "one\ntwo", FFile;
-};
-TARVO_IMPLEMENT_CLASS(TStrGadget)
-TARVO_PUBLISH(TStrGadget) {
-  Property("Ident", &TStrGadget::FIdent, &TStrGadget::FIdent).Attr<IdentifierStringAttribute>();
-  Property("Text", &TStrGadget::FText, &TStrGadget::FText).Default(String("ABC")).Attr<AutoUpdateAttribute>();
-  Property("Notes", &TStrGadget::FNotes, &TStrGadget::FNotes);
-  Property("File", &TStrGadget::FFile, &TStrGadget::FFile, &TypeInfo_TAttributedFileName)
-      .Attr<FileNameDesignAttribute>("Logs (*.log)|*.log", "log");
-  Property("Plain", &TStrGadget::FText, &TStrGadget::FText, &TypeInfo_TAttributedFileName);
-}
 
 namespace {
 
 using namespace Testing;
 
-class StringEditorsTest : public testing::Test {
+class StringEditorsTest : public TypedEditorTest {
 protected:
-  StringEditorsTest() { FDesigner->Select({&FFirst, &FSecond}); }
-
   template <class E = TStringPropertyEditor> TRef<E> Editor(const String& AName) {
-    return MakeEditor<E>(FDesigner, AName);
+    return TypedEditorTest::Editor<E>(AName);
   }
-
-  std::vector<String> FLog;
-  TRef<TLoggingDesigner> FDesigner = New<TLoggingDesigner>(FLog);
-  TStrGadget FFirst, FSecond;
 };
 
 // Trimmed, separators made underscores, then checked: first character, then every character.
@@ -62,7 +39,6 @@ TEST_F(StringEditorsTest, TheIdentifierRule) {
       {"leading digit", "9lives", ""},
       {"leading digit behind an underscore", "_9lives", "_9lives"},
       {"full stop inside", "a.b", ""},
-      {"only blanks", "   ", ""},
       {"letters beyond ASCII", "Größe", "Größe"},
   };
   ForEachRow(rows, [this](const TRow& ARow) {
@@ -88,6 +64,8 @@ TEST_F(StringEditorsTest, TheIdentifierRule) {
 TEST_F(StringEditorsTest, DefaultsAndLiveUpdate) {
   FSecond.FText = "abc";
   EXPECT_EQ(Editor("Text")->GetIsDefaults(nullptr)->ToArray(), (std::vector<Boolean>{true, false})) << "case counts";
+  EXPECT_EQ(Editor<TOrdinalPropertyEditor>("Text")->GetIsDefaults(nullptr)->ToArray(),
+            (std::vector<Boolean>{true, false}));
   EXPECT_TRUE(Editor("Text")->GetAutoUpdate());
   EXPECT_FALSE(Editor("Notes")->GetAutoUpdate());
   EXPECT_FALSE(Editor<TNamePropertyEditor>("Text")->GetAutoUpdate());
@@ -130,20 +108,45 @@ TEST_F(StringEditorsTest, TheMultiLineDialog) {
   EXPECT_EQ(FLog, (std::vector<String>{"Modified", "Modified"}));
 }
 
+// An open dialog for existing files under the member's filter; a file chosen on OK is written,
+// nothing on Cancel.
 TEST_F(StringEditorsTest, TheFileDialogTakesItsFilterFromTheMember) {
   QTemporaryFile file(QDir::tempPath() + "/tarvo-XXXXXX.log");
   ASSERT_TRUE(file.open());
-  QStringList filters;
-  TModalHandlerScope accept([&](QDialog& ADialog) {
-    auto& dialog = dynamic_cast<QFileDialog&>(ADialog);
-    filters = dialog.nameFilters();
-    dialog.selectFile(file.fileName());
-    return int(QDialog::Accepted);
-  });
-  Editor<TAttributedFileNameEdit>("File")->Execute(nullptr);
-  EXPECT_EQ(filters, QStringList{"Logs (*.log)"});
-  EXPECT_EQ(FSecond.FFile, file.fileName().toStdString());
+  for (const int code : {QDialog::Rejected, QDialog::Accepted}) {
+    TModalHandlerScope answer([&](QDialog& ADialog) {
+      auto& dialog = dynamic_cast<QFileDialog&>(ADialog);
+      EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+      EXPECT_EQ(dialog.nameFilters(), QStringList{"Logs (*.log)"});
+      EXPECT_EQ(dialog.defaultSuffix(), "log");
+      dialog.selectFile(file.fileName());
+      return code;
+    });
+    Editor<TAttributedFileNameEdit>("File")->Execute(nullptr);
+    EXPECT_EQ(FSecond.FFile, code == QDialog::Accepted ? file.fileName().toStdString() : "");
+  }
   EXPECT_EQ(Editor<TAttributedFileNameEdit>("Plain")->GetFilterDefaultExt(), (std::pair<String, String>{}));
+}
+
+// A list row shows "Name - " in the row's font on the row's background, then "(ABC)" in the font.
+TEST_F(StringEditorsTest, AFontRowDrawsItsNameAndASample) {
+  QImage image(200, 20, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::white);
+  const auto colours = New<TPaintObjectSet>(TColor(0x0000FF), TColor(0x00FF00)); // red, font green
+  Editor<TFontNamePropertyEditor>("FontName")
+      ->ListDrawValue(TValue("Monospace"), New<TIGXGraphics>(image), nullptr, colours, TIGXRect(10, 0, 180, 20), false);
+  const QFontMetrics label((QFont()));
+  const int sampleAt = 10 + label.horizontalAdvance("Monospace - ");
+  const auto inks = [&](int AFrom, int ATo) {
+    int green = 0;
+    for (int x = AFrom; x < ATo; ++x)
+      for (int y = 0; y < 20; ++y) green += image.pixelColor(x, y).green() > 128;
+    return green;
+  };
+  EXPECT_EQ(image.pixelColor(5, 10), QColor(Qt::white)) << "nothing left of the row";
+  EXPECT_EQ(image.pixelColor(11, 0), QColor(Qt::red));
+  EXPECT_GT(inks(10, sampleAt), 0) << "the name";
+  EXPECT_GT(inks(sampleAt, 190), 0) << "the sample";
 }
 
 // Each font is measured once: a later call takes the cached height whatever height it brings.

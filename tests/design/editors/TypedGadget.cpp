@@ -1,0 +1,40 @@
+#include "reflection/Publish.h"
+#include "reflection/RangeAttributes.h"
+#include "reflection/RowAttributes.h"
+#include "reflection/StringAttributes.h"
+#include "runtime/NamedTypes.h"
+#include "tests/design/editors/TypedEditorTest.h"
+
+namespace Tarvo {
+
+TARVO_IMPLEMENT_CLASS(TTypedGadget)
+TARVO_PUBLISH(TTypedGadget) {
+  using T = TTypedGadget;
+  Property("Gain", &T::FGain, &T::FGain);
+  Property("Count", &T::FCount, &T::FCount);
+  Property("Position", &T::FPosition, &T::FPosition);
+  Property("Order", &T::FOrder, &T::FOrder).Attr<MinValueAttribute>(TValue(1)).Attr<MaxValueAttribute>(TValue(4));
+  Property("Channel", &T::FChannel, &T::FChannel)
+      .Attr<DesignMinAttribute>(TValue(2))
+      .Attr<DesignRangeAttribute>(TValue(1), TValue(8));
+  Property("Offset", &T::FOffset, &T::FOffset).Limits(-100, 100).Attr<SuppressRangeAttribute>();
+  Property("Crossed", &T::FCrossed, &T::FCrossed).Limits(10, 5);
+  Property("Fixed", &T::FFixed, &T::FFixed).Attr<PropertyFixedListDesignAttribute>();
+  Property("Narrow", &T::FNarrow, &T::FNarrow);
+  Property("Wide", &T::FWide, &T::FWide);
+  Property("Ident", &T::FIdent, &T::FIdent).Attr<IdentifierStringAttribute>();
+  Property("Text", &T::FText, &T::FText).Default(String("ABC")).Attr<AutoUpdateAttribute>();
+  Property("Notes", &T::FNotes, &T::FNotes);
+  Property("File", &T::FFile, &T::FFile, &TypeInfo_TAttributedFileName)
+      .Attr<FileNameDesignAttribute>("Logs (*.log)|*.log", "log");
+  Property("Plain", &T::FText, &T::FText, &TypeInfo_TAttributedFileName);
+  Property("MultiLine", &T::FNotes, &T::FNotes).Attr<MultiLineAttribute>();
+  Property("WideText", &T::FText, &T::FText, &TypeInfo_WideString);
+  Property("WideMultiLine", &T::FText, &T::FText, &TypeInfo_WideString).Attr<MultiLineAttribute>();
+  Property("FontName", &T::FText, &T::FText, &TypeInfo_TFontName);
+  Property("ImeName", &T::FText, &T::FText, &TypeInfo_TImeName);
+  Public();
+  Property("Inner", &T::FInner, &T::FInner);
+}
+
+} // namespace Tarvo
