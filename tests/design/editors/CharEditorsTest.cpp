@@ -10,9 +10,9 @@ namespace {
 
 using namespace Testing;
 
-class CharEditorsTest : public TypedEditorTest {
+class CharEditorsTest : public TypedEditorTest<TAnsiCharPropertyEditor> {
 protected:
-  TRef<TAnsiCharPropertyEditor> FNarrow = Editor<TAnsiCharPropertyEditor>("Narrow");
+  TRef<TAnsiCharPropertyEditor> FNarrow = Editor("Narrow");
   TRef<TWideCharPropertyEditor> FWide = Editor<TWideCharPropertyEditor>("Wide");
 };
 

@@ -11,12 +11,7 @@ namespace {
 
 using namespace Testing;
 
-class OrdinalEditorsTest : public TypedEditorTest {
-protected:
-  template <class E = TIntegerPropertyEditor> TRef<E> Editor(const String& AName) {
-    return TypedEditorTest::Editor<E>(AName);
-  }
-};
+using OrdinalEditorsTest = TypedEditorTest<TIntegerPropertyEditor>;
 
 // The hard range comes from the member's limits, the integer type's declared maximum (read as a
 // 32-bit number) or the class's defaults; the suggested one from the attributes first.

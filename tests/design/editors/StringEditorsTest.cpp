@@ -19,12 +19,7 @@ namespace {
 
 using namespace Testing;
 
-class StringEditorsTest : public TypedEditorTest {
-protected:
-  template <class E = TStringPropertyEditor> TRef<E> Editor(const String& AName) {
-    return TypedEditorTest::Editor<E>(AName);
-  }
-};
+using StringEditorsTest = TypedEditorTest<TStringPropertyEditor>;
 
 // Trimmed, separators made underscores, then checked: first character, then every character.
 TEST_F(StringEditorsTest, TheIdentifierRule) {

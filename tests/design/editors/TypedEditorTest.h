@@ -23,11 +23,12 @@ public:
   String FIdent = "start", FText = "ABC", FNotes = "one\ntwo", FFile;
 };
 
-class TypedEditorTest : public testing::Test {
+// Editors are of class D unless a test names another.
+template <class D> class TypedEditorTest : public testing::Test {
 protected:
   TypedEditorTest() { FDesigner->Select({&FFirst, &FSecond}); }
 
-  template <class E> TRef<E> Editor(const String& AName) { return Testing::MakeEditor<E>(FDesigner, AName); }
+  template <class E = D> TRef<E> Editor(const String& AName) { return Testing::MakeEditor<E>(FDesigner, AName); }
 
   std::vector<String> FLog;
   TRef<Testing::TLoggingDesigner> FDesigner = New<Testing::TLoggingDesigner>(FLog);
