@@ -125,19 +125,42 @@ template <class TBase> void TNumericSliderEditor<TBase>::InitCreate(TSinglePrope
                                                 [this](TNumericInplaceForm* AForm) { MakeForm(AForm); });
 }
 
+template <class TBase> TNumericSliderEditor<TBase>::~TNumericSliderEditor() {
+  if (!FFormController) return;
+  for (const TInplaceFormInfo<TNumericInplaceForm>& info :
+       QueryAs<IInplaceEditorFormController<TNumericInplaceForm>>(FFormController)->GetForms())
+    if (info.Form) info.Form->OnValueChange = info.Form->OnEditorEnter = info.Form->OnEditorLeave = nullptr;
+}
+
 template <class TBase> void TNumericSliderEditor<TBase>::MakeForm(TNumericInplaceForm* AForm) {
   AForm->OnValueChange = [this](QWidget* ASender) { FormValueChange(ASender); };
   AForm->OnEditorEnter = [this](QWidget* ASender) { FormEditorEnter(ASender); };
   AForm->OnEditorLeave = [this](QWidget* ASender) { FormEditorLeave(ASender); };
-  // The slider runs over the suggested range, taken now.
-  AForm->SetLimits(New<TPropertyRange>(this->GetSuggestedMinValue(), this->GetSuggestedMaxValue()));
+  // The slider runs over the suggested range, taken now and held as the form holds values, so
+  // that a Cardinal's declared maximum, which reads -1, is its 4294967295.
+  AForm->SetLimits(
+      New<TPropertyRange>(InplaceValue(this->GetSuggestedMinValue()), InplaceValue(this->GetSuggestedMaxValue())));
   if (const TRef<IValueArrayList> values = this->GetInstanceValues(nullptr); values->GetCount() > 0)
     AForm->SetValue(values->GetItem(0));
 }
 
 template <class TBase> HRESULT TNumericSliderEditor<TBase>::QueryInterface(const TGUID& AIID, void** AObj) {
-  if (AIID == IPropertyEditorInplace::IID && FFormController) return FFormController->QueryInterface(AIID, AObj);
-  return TBase::QueryInterface(AIID, AObj);
+  if (AIID == IPropertyEditorInplace::IID && !FFormController) {
+    *AObj = nullptr;
+    return E_NOINTERFACE;
+  }
+  return TImplements<TBase, IPropertyEditorInplace>::QueryInterface(AIID, AObj);
+}
+
+template <class TBase>
+TRef<IInplaceForm>
+TNumericSliderEditor<TBase>::GetInplaceForm(QWidget* AParent, const TRef<IPaintObjects>& APaintObjects,
+                                            const TRef<IMemberUIUpdate>& AUIUpdate, const TIGXRect& ARect) {
+  return FFormController->GetInplaceForm(AParent, APaintObjects, AUIUpdate, ARect);
+}
+
+template <class TBase> void TNumericSliderEditor<TBase>::DropForm(const TRef<IInplaceForm>& AForm) {
+  FFormController->DropForm(AForm);
 }
 
 template <class TBase> void TNumericSliderEditor<TBase>::SetInstanceValues(const TValue& AValue) {

@@ -5,11 +5,11 @@
 // editor does it; out-of-range numbers are clamped, never refused.
 
 #include "design/SinglePropertyEditor.h"
+#include "design/paint/InplaceForm.h"
 #include "design/paint/PropertyRange.h"
 
 namespace Tarvo {
 
-class IPropertyEditorInplace;
 class TNumericInplaceForm;
 
 // Values compared by their text for the default marker.
@@ -49,11 +49,19 @@ public:
 
 // The slider in place: a numeric form per open row, made for members that are published and have
 // no fixed list. Every move writes all selected objects; a form shows the first object's value.
-template <class TBase> class TARVO_API TNumericSliderEditor : public TBase {
+// The editor answers IPropertyEditorInplace itself, so that a grid holding it holds the editor
+// its forms report to.
+template <class TBase> class TARVO_API TNumericSliderEditor : public TImplements<TBase, IPropertyEditorInplace> {
 public:
-  using TBase::TBase;
+  using TImplements<TBase, IPropertyEditorInplace>::TImplements;
+  // Forms the grid still shows stop reporting to the editor.
+  ~TNumericSliderEditor() override;
 
+  // Refuses IPropertyEditorInplace where there is no slider.
   HRESULT QueryInterface(const TGUID& AIID, void** AObj) override;
+  TRef<IInplaceForm> GetInplaceForm(QWidget* AParent, const TRef<IPaintObjects>& APaintObjects,
+                                    const TRef<IMemberUIUpdate>& AUIUpdate, const TIGXRect& ARect) override;
+  void DropForm(const TRef<IInplaceForm>& AForm) override;
   void SetInstanceValues(const TValue& AValue) override;
   // Pushes the first selected object's value into every open form.
   virtual void UpdateInplace();
@@ -64,7 +72,7 @@ public:
 
 protected:
   void InitCreate(TSinglePropertyEditor* AInstance) override;
-  // The value as a form holds it.
+  // A value or a limit as a form holds it.
   virtual TValue InplaceValue(const TValue& AValue) { return TValue(AValue.AsOrdinal()); }
 
   TRef<IPropertyEditorInplace> FFormController;
@@ -81,7 +89,8 @@ public:
   TValue GetDefaultMaxValue() override { return TValue(Int64(4294967295)); }
 
 protected:
-  TValue InplaceValue(const TValue& AValue) override { return TValue(Int64(AValue.AsType<Cardinal>())); }
+  // The low 32 bits, unsigned.
+  TValue InplaceValue(const TValue& AValue) override { return TValue(Int64(std::uint32_t(AValue.AsOrdinal()))); }
 };
 
 // The integer editors without a slider, such as the colour editors.

@@ -1,5 +1,5 @@
 // The list instances of one element type, compiled here once; the header declares them extern.
-#include "design/paint/InplaceFormController.h"
+#include "design/paint/InplaceForm.h"
 
 namespace Tarvo {
 TARVO_ARRAY_LIST_INSTANCES(, TRef<IInplaceForm>)

@@ -101,5 +101,21 @@ TEST_F(OrdinalEditorsTest, TheSliderWritesEverySelectedObject) {
   EXPECT_EQ(numeric->GetValue().AsInt64(), 5);
 }
 
+// A Cardinal's slider runs over the whole unsigned range, though its maximum reads -1. A form
+// the grid keeps after its editor went reports to nobody.
+TEST_F(OrdinalEditorsTest, TheCardinalSliderRunsOverTheUnsignedRange) {
+  QWidget grid;
+  TRef<IPropertyEditorInplace> editor = QueryAs<IPropertyEditorInplace>(Editor<TCardinalPropertyEditor>("Count"));
+  const auto form = editor->GetInplaceForm(&grid, New<TPaintObjects>(), nullptr, TIGXRect(0, 0, 200, 16));
+  auto* numeric = static_cast<TNumericInplaceForm*>(form->GetForm());
+  numeric->TrackBar->setValue(TNumericInplaceForm::TrackBarMax); // near the maximum, as wide bars place it
+  const Cardinal written = FFirst.FCount;
+  EXPECT_GT(written, 4290000000u);
+  EXPECT_EQ(FSecond.FCount, written);
+  editor = nullptr;
+  numeric->TrackBar->setValue(0);
+  EXPECT_EQ(FFirst.FCount, written);
+}
+
 } // namespace
 } // namespace Tarvo

@@ -1,6 +1,8 @@
-#include "design/paint/InplaceFormController.h"
+#include "design/paint/InplaceForm.h"
 
 #include <cmath>
+
+#include "platform/ControlColor.h"
 
 namespace Tarvo {
 
