@@ -4,6 +4,7 @@
 #include <QProxyStyle>
 
 #include "platform/ControlColor.h"
+#include "platform/MessageDlg.h"
 #include "platform/QueryControls.h"
 
 namespace Tarvo {
@@ -18,6 +19,15 @@ public:
   }
 };
 } // namespace
+
+void NotifyForm(const TFormNotifyEvent& AEvent, QWidget* ASender) {
+  if (!AEvent) return;
+  try {
+    AEvent(ASender);
+  } catch (const Exception& AError) {
+    MessageDlg(AError.Message(), mtError, {mbOK}, mbOK);
+  }
+}
 
 TBasicInplaceForm::TBasicInplaceForm(QWidget* AParent) : QWidget(AParent) {}
 

@@ -61,7 +61,7 @@ void TBasicColorInplaceForm::TrackBarChange() {
   if (FInUpdate) return;
   FInUpdate = true;
   UpdateHue(Position(TrackBarRed), Position(TrackBarGreen), Position(TrackBarBlue));
-  if (OnColorChange) OnColorChange(this);
+  NotifyForm(OnColorChange, this);
   FInUpdate = false;
 }
 
@@ -108,13 +108,9 @@ void TBasicColorInplaceForm::SetPositions(const std::vector<std::pair<QSlider*, 
   FInUpdate = false;
 }
 
-void TBasicColorInplaceForm::FormMouseDown() {
-  if (OnEditorEnter) OnEditorEnter(this);
-}
+void TBasicColorInplaceForm::FormMouseDown() { NotifyForm(OnEditorEnter, this); }
 
-void TBasicColorInplaceForm::FormMouseUp() {
-  if (OnEditorLeave) OnEditorLeave(this);
-}
+void TBasicColorInplaceForm::FormMouseUp() { NotifyForm(OnEditorLeave, this); }
 
 TColorInplaceForm::TColorInplaceForm(QWidget* AParent) : TBasicColorInplaceForm(ClientHeight, AParent) {}
 

@@ -41,12 +41,8 @@ Int64 ToInt64(Extended AValue) {
 
 TBasicRangedInplaceForm::TBasicRangedInplaceForm(QWidget* AParent) : TBasicInplaceForm(AParent) {
   TrackBar = AddTrackBar(TrackBarMax);
-  const auto enter = [this](QEvent*) {
-    if (OnEditorEnter) OnEditorEnter(this);
-  };
-  const auto leave = [this](QEvent*) {
-    if (OnEditorLeave) OnEditorLeave(this);
-  };
+  const auto enter = [this](QEvent*) { NotifyForm(OnEditorEnter, this); };
+  const auto leave = [this](QEvent*) { NotifyForm(OnEditorLeave, this); };
   HookEvent(TrackBar, QEvent::FocusIn, enter);
   HookEvent(TrackBar, QEvent::MouseButtonPress, enter);
   HookEvent(TrackBar, QEvent::FocusOut, leave);
@@ -55,9 +51,7 @@ TBasicRangedInplaceForm::TBasicRangedInplaceForm(QWidget* AParent) : TBasicInpla
   resize(200, ClientHeight);
 }
 
-void TBasicRangedInplaceForm::DoValueChange() {
-  if (OnValueChange) OnValueChange(this);
-}
+void TBasicRangedInplaceForm::DoValueChange() { NotifyForm(OnValueChange, this); }
 
 void TBasicRangedInplaceForm::SetPosition(Extended APosition) {
   // An empty range gives no number at all; the bar stays at its start.

@@ -6,7 +6,10 @@
 #include <vector>
 
 #include "FormTestSupport.h"
+#include <QMessageBox>
+
 #include "forms/RangedInplaceForm.h"
+#include "platform/ModalSeam.h"
 #include "tests/support/NamedRows.h"
 
 namespace Tarvo {
@@ -98,6 +101,20 @@ TEST(NumericInplaceFormTest, HoldingTheBarEntersAndLeaves) {
   QApplication::sendEvent(form.TrackBar, &focusIn);
   QApplication::sendEvent(form.TrackBar, &focusOut);
   EXPECT_EQ(events, (std::vector<std::string>{"enter", "leave", "enter", "leave"}));
+}
+
+// A handler's error has nowhere to go from a window system event: the user is shown it.
+TEST(NumericInplaceFormTest, AHandlersErrorIsShownToTheUser) {
+  TNumericInplaceForm form;
+  form.SetLimits(Range<Int64>(0, 10));
+  form.OnValueChange = [](QWidget*) { throw EDesignPropertyError("Gain must stay below 5"); };
+  QString shown;
+  TModalHandlerScope answer([&](QDialog& ADialog) {
+    shown = dynamic_cast<QMessageBox&>(ADialog).text();
+    return int(QMessageBox::Ok);
+  });
+  form.TrackBar->setValue(4000);
+  EXPECT_EQ(shown, QStringLiteral("Gain must stay below 5"));
 }
 
 // The bar's ends read back inside the full ranges of Int64 and Double.
