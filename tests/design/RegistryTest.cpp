@@ -224,11 +224,8 @@ TEST_F(RegistryTest, HiddenMembersOfRegisteredComponentsGetTheHiddenEditor) {
   // The entry names Level: Limit, of the same type, keeps its default editor.
   TRegTestGauge gauge;
   TRef<IArrayList<TMemberEditorClass>> classes;
-  TRef<IMemberInfo> limit;
-  TRttiObjectHelper::TypeInfo(&gauge, false)
-      ->GetAllMembers()
-      ->Query()
-      ->Find([](const TRef<IMemberInfo>& AMember) { return AMember->GetName() == "Limit"; }, limit);
+  TRef<IValueMemberInfo> limit;
+  ASSERT_TRUE(TRttiObjectHelper::TypeInfo(&gauge, false)->FindMember("Limit", limit));
   ASSERT_TRUE(GetMemberEditorClasses(limit, &gauge, classes));
   EXPECT_EQ(classes->GetItem(0).get(), TRegTestDefaultEditor::ClassInfo());
 }

@@ -51,8 +51,7 @@ TEST(ValueTest, EmptyValue) {
   EXPECT_EQ(result.AsInteger(), 0);
   EXPECT_FALSE(empty.TryCast(&TypeInfo_Integer, result, false));
   EXPECT_TRUE(empty.TryCast(TObject::ClassInfo()->ClassTypeRecord(), result, false));
-  TValue nothing;
-  EXPECT_FALSE(nothing.FromString("1"));
+  EXPECT_FALSE(TValue().FromString("1"));
 }
 
 TEST(ValueTest, ToStringByType) {

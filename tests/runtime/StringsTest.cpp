@@ -2,6 +2,7 @@
 
 #include "runtime/Graphics.h"
 #include "runtime/Strings.h"
+#include "tests/rtl/ExpectError.h"
 #include "tests/support/NamedRows.h"
 #include "tests/support/StringLines.h"
 
@@ -11,15 +12,6 @@ namespace {
 using Testing::LinesOf;
 using Testing::ListOf;
 using Testing::TLines;
-
-String ErrorOf(const std::function<void()>& AAction) {
-  try {
-    AAction();
-  } catch (const EListError& e) {
-    return e.Message();
-  }
-  return String();
-}
 
 TEST(StringListTextTest, TextSplitsAtEveryKindOfLineBreakAndJoinsWithLF) {
   const struct {
@@ -74,12 +66,12 @@ TEST(StringListSortedTest, AddsGoToTheirPlaceAndDuplicatesFollowTheRule) {
   EXPECT_EQ(list->Add("APPLE"), 0); // ignored: already there in another case
   EXPECT_EQ(list->Count(), 4);
   list->SetDuplicates(dupError);
-  EXPECT_EQ(ErrorOf([&] { list->Add("apple"); }), "String list does not allow duplicates");
+  Testing::ExpectError<EListError>([&] { list->Add("apple"); }, "String list does not allow duplicates");
   list->SetDuplicates(dupAccept);
   list->Add("apple");
   EXPECT_EQ(list->Count(), 5);
-  EXPECT_EQ(ErrorOf([&] { list->Insert(0, "x"); }), "Operation not allowed on sorted list");
-  EXPECT_EQ(ErrorOf([&] { list->Put(0, "x"); }), "Operation not allowed on sorted list");
+  Testing::ExpectError<EListError>([&] { list->Insert(0, "x"); }, "Operation not allowed on sorted list");
+  Testing::ExpectError<EListError>([&] { list->Put(0, "x"); }, "Operation not allowed on sorted list");
 
   list->SetCaseSensitive(true); // resorts: upper case first
   EXPECT_EQ(list->Strings(0), "Banana");
@@ -102,9 +94,9 @@ TEST(StringListEditTest, EditsCheckIndexesAndTellOncePerChange) {
   list->Clear();
   list->Clear(); // empty already
   EXPECT_EQ(notices, 6);
-  EXPECT_EQ(ErrorOf([&] { list->Strings(0); }), "List index out of bounds (0)");
-  EXPECT_EQ(ErrorOf([&] { list->Insert(1, "z"); }), "List index out of bounds (1)");
-  EXPECT_EQ(ErrorOf([&] { list->Delete(-1); }), "List index out of bounds (-1)");
+  Testing::ExpectError<EListError>([&] { list->Strings(0); }, "List index out of bounds (0)");
+  Testing::ExpectError<EListError>([&] { list->Insert(1, "z"); }, "List index out of bounds (1)");
+  Testing::ExpectError<EListError>([&] { list->Delete(-1); }, "List index out of bounds (-1)");
   EXPECT_THROW(list->Assign(TOwnedObject<TFont>(Construct<TFont>()).get()), EConvertError);
 }
 
