@@ -78,9 +78,9 @@ TMemberFilter::TMemberFilter(const String& AMemberNameMask, TClass AComponentCla
 Boolean TMemberFilter::Matches(TClass AClass, const String& AName, const TRef<ITypeInfo>& AType) {
   if (AClass && FComponentClass && !AClass->InheritsFrom(FComponentClass)) return false;
   if (!AType || !FMemberType) return false;
-  const bool sameType = AType == FMemberType || (AType->GetTypeKind() == tkClass &&
-                                                 FMemberType->GetTypeKind() == tkClass &&
-                                                 AType->InheritsFrom(FMemberType, true));
+  const bool sameType =
+      AType == FMemberType || (AType->GetTypeKind() == tkClass && FMemberType->GetTypeKind() == tkClass &&
+                               AType->InheritsFrom(FMemberType, true));
   if (!sameType) return false;
   return !FMask || FMask->Matches(AName);
 }

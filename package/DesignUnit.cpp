@@ -1,6 +1,7 @@
 #include "package/DesignUnit.h"
 
 #include "containers/List.h"
+#include "design/MemberCategoryRegistry.h"
 #include "design/Registry.h"
 #include "design/editors/BasicEditors.h"
 #include "design/paint/PaintObjects.h"
@@ -14,24 +15,35 @@ TDesignKeptTypes GDesignKeptTypes;
 
 namespace {
 int GComponentRegisteredKey = 0;
+int GComponentRegistrationKey = 0;
 int GModuleUnloadKey = 0;
+
+void SweepModule(TModule* AModule) {
+  SweepMemberEditors(AModule);
+  SweepMemberCategories(AModule);
+}
 } // namespace
 
 void InitializeDesignUnit() {
   GMemberEditors = New<TLinkedList<TRef<IMemberEditorItem>>>();
+  GMemberCategories = New<TMemberCategories>();
   GDesignKeptTypes = {TRttiObjectHelper::ClassTypeInfo(TComponent::ClassInfo()),
                       TTypeInfoHelper::TypeInfo(TypeInfo<TRef<IObjectArrayList>>()),
                       TTypeInfoHelper::TypeInfo(TypeInfo<TRef<IStringArrayList>>())};
   GComponentRegisteredKey = RegisterComponentRegisteredNotify(RegisterHiddenMembers);
+  RegisterDesignCategories();
   RegisterDesignEditors();
-  GModuleUnloadKey = AddModuleUnloadProc(SweepMemberEditors);
+  GComponentRegistrationKey = AddComponentRegistrationProcedure(RegisterMemberCategoriesOf);
+  GModuleUnloadKey = AddModuleUnloadProc(SweepModule);
 }
 
 void FinalizeDesignUnit() {
   RemoveModuleUnloadProc(GModuleUnloadKey);
+  RemoveComponentRegistrationProcedure(GComponentRegistrationKey);
   UnregisterComponentRegisteredNotify(GComponentRegisteredKey);
   FinalizeDesignPaintObjects();
   GMemberEditors = nullptr;
+  GMemberCategories = nullptr;
   DefaultEditorClasses = TFallbackEditorClasses();
   GDesignKeptTypes = TDesignKeptTypes();
 }

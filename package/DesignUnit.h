@@ -17,6 +17,9 @@ extern TDesignKeptTypes GDesignKeptTypes;
 void InitializeDesignUnit();
 void FinalizeDesignUnit();
 
+// The category registrations of the design core itself, in their order.
+void RegisterDesignCategories();
+
 // The editor registrations of the design core itself, in their order, and the default editors
 // of the fallback.
 void RegisterDesignEditors();
