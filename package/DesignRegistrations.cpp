@@ -8,6 +8,7 @@ namespace Tarvo {
 
 void RegisterDesignEditors() {
   RegisterBasicEditors();
+  RegisterEnumEditors();
   RegisterOrdinalEditors();
   RegisterCharEditors();
   RegisterStringEditors();

@@ -8,6 +8,8 @@ namespace Tarvo {
 // THiddenEditor's lines, and the base value editor for every kind until a typed family takes the
 // kind over; so it comes first.
 void RegisterBasicEditors();
+// Enumerations, and Booleans registered by type.
+void RegisterEnumEditors();
 // Integers of every width, with Cardinal registered by type.
 void RegisterOrdinalEditors();
 // 8-bit and wide characters.

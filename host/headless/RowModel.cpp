@@ -14,12 +14,14 @@ namespace Tarvo {
 
 namespace {
 
-// The members of the first object whose names every other selected object has as well. Objects
-// of one class are looked at once.
+// The public and published members of the first object whose names every other selected object
+// has as well; protected and private ones are no one's business in an inspector, whatever editor
+// the package would give them. Objects of one class are looked at once.
 std::vector<TRef<IMemberInfo>> CommonMembers(const TRef<IObjectArrayList>& ASelection) {
   std::vector<TRef<IMemberInfo>> result;
   if (ASelection->GetCount() == 0) return result;
-  for (const TRef<IMemberInfo>& member : TRttiObjectHelper::TypeInfo(ASelection->GetItem(0), true)->GetAllMembers())
+  for (const TRef<IMemberInfo>& member :
+       TRttiObjectHelper::TypeInfo(ASelection->GetItem(0), true)->GetMembers(mvsPublicAndPublished))
     result.push_back(member);
   std::unordered_set<TClass> seen{ASelection->GetItem(0)->ClassType()};
   for (TObject* object : ASelection) {

@@ -112,7 +112,7 @@ TEST_F(PackageRegistrationsTest, ControlsAndComponentsHideTheirListedMembersOnly
   EXPECT_EQ(EditorOf(component.get(), "Tag"), "THiddenEditor");
   EXPECT_EQ(EditorOf(&plain, "Left"), "TIntegerPropertyEditor");
   EXPECT_EQ(EditorOf(&plain, "Tag"), "TInt64PropertyEditor");
-  EXPECT_EQ(EditorOf(shape.get(), "Shape"), "TSinglePropertyEditor");
+  EXPECT_EQ(EditorOf(shape.get(), "Shape"), "TEnumPropertyEditor");
   EXPECT_EQ(EditorOf(shape.get(), "SetBounds"), "TMethodEditor");
 }
 

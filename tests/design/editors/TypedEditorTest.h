@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "runtime/Component.h"
+#include "runtime/NamedTypes.h"
 #include "tests/design/EditorTestSupport.h"
 
 namespace Tarvo {
@@ -21,6 +22,8 @@ public:
   AnsiChar FNarrow = 'x';
   WideChar FWide = u'x';
   String FIdent = "start", FText = "ABC", FNotes = "one\ntwo", FFile;
+  TShapeType FShape = stRectangle;
+  Boolean FFlag = false;
 };
 
 // Editors are of class D unless a test names another.

@@ -1,3 +1,4 @@
+#include "reflection/ListAttributes.h"
 #include "reflection/Publish.h"
 #include "reflection/RangeAttributes.h"
 #include "reflection/RowAttributes.h"
@@ -33,6 +34,9 @@ TARVO_PUBLISH(TTypedGadget) {
   Property("WideMultiLine", &T::FText, &T::FText, &TypeInfo_WideString).Attr<MultiLineAttribute>();
   Property("FontName", &T::FText, &T::FText, &TypeInfo_TFontName);
   Property("ImeName", &T::FText, &T::FText, &TypeInfo_TImeName);
+  Property("Shape", &T::FShape, &T::FShape);
+  Property("SortedShape", &T::FShape, &T::FShape).Attr<PropertySortListDesignAttribute>();
+  Property("Flag", &T::FFlag, &T::FFlag);
   Public();
   Property("Inner", &T::FInner, &T::FInner);
 }
