@@ -79,7 +79,7 @@ String TSinglePropertyEditor::GetDisplayValue(const TRef<IObjectArrayList>& AObj
   return result;
 }
 
-Boolean TSinglePropertyEditor::WriteInstance(const TRef<ISinglePropertyInfo>& AMember, TObject* AInstance,
+Boolean TSinglePropertyEditor::WriteInstance(const TRef<IValueMemberInfo>& AMember, TObject* AInstance,
                                              const TValue& AValue) {
   AMember->SetValue(AInstance, ApplyConstraints(AValue));
   const Boolean refresh = AMember->HasCustomAttribute(RefreshPropertiesAttribute::ClassInfo(), true);
@@ -93,8 +93,8 @@ void TSinglePropertyEditor::SetInstanceValues(const TValue& AValue) {
   const auto write = [&](TObject* AInstance) {
     // A nested object that is nil has nothing to write to.
     if (!AInstance) return;
-    refresh = WriteInstance(MemberAs<ISinglePropertyInfo>(GetValueMember(AInstance), FMemberName), AInstance, AValue) ||
-              refresh;
+    refresh =
+        WriteInstance(MemberAs<IValueMemberInfo>(GetValueMember(AInstance), FMemberName), AInstance, AValue) || refresh;
     wrote = true;
   };
   if (FOwnerObject) write(FOwnerObject);
@@ -108,7 +108,7 @@ void TSinglePropertyEditor::SetInstanceValues(const TValue& AValue) {
 void TSinglePropertyEditor::SetInstanceValue(TObject* AObject, const TValue& AValue) {
   if (FOwnerObject && FOwnerObject != AObject) return;
   // The member is the one of the object given, also when the write goes to a mapped instance.
-  const TRef<ISinglePropertyInfo> member = MemberAs<ISinglePropertyInfo>(GetValueMember(AObject), FMemberName);
+  const TRef<IValueMemberInfo> member = MemberAs<IValueMemberInfo>(GetValueMember(AObject), FMemberName);
   const Boolean refresh = WriteInstance(member, FOwnerObject ? FOwnerObject : RootToInstance(AObject), AValue);
   Modified();
   if (refresh) FDesigner->ResetObjectInspector();
@@ -133,12 +133,12 @@ void TSinglePropertyEditor::SetStringValue(const String& AValue) {
 TRef<IArrayList<Boolean>> TSinglePropertyEditor::GetIsDefaults(const TRef<IObjectArrayList>& AObjectsList) {
   const TRef<IArrayList<Boolean>> result = New<TArrayList<Boolean>>();
   for (TObject* object : GetOwnerObjects(AObjectsList))
-    result->Add(MemberAs<ISinglePropertyInfo>(GetValueMember(object), FMemberName)->GetIsDefault(object, true));
+    result->Add(MemberAs<IValueMemberInfo>(GetValueMember(object), FMemberName)->GetIsDefault(object, true));
   return result;
 }
 
 TRef<IArrayList<Boolean>> TSinglePropertyEditor::GetIsDefaultsByText(const TRef<IObjectArrayList>& AObjectsList,
-                                                                      String (*AText)(const TValue&)) {
+                                                                     String (*AText)(const TValue&)) {
   const String defaultText = AText(GetDefaultValue());
   const TRef<IArrayList<TIsDefaultByStrored>> stored = GetIsDefaultsByStored(AObjectsList);
   const TRef<IValueArrayList> values = GetInstanceValues(AObjectsList);
@@ -201,7 +201,7 @@ Boolean TSinglePropertyEditor::GetFirstOwnerInstance(TObject*& AInstance) {
 TValue TSinglePropertyEditor::GetDefaultValue() {
   TObject* instance = nullptr;
   if (!GetFirstOwnerInstance(instance)) return TValue();
-  return MemberAs<ISinglePropertyInfo>(GetFirstMember(), FMemberName)->GetDefault(instance);
+  return MemberAs<IValueMemberInfo>(GetFirstMember(), FMemberName)->GetDefault(instance);
 }
 
 void TSinglePropertyEditor::ResetValue() {

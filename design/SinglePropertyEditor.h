@@ -145,7 +145,7 @@ private:
   // A selected object mapped to the object the member lives on.
   TObject* RootToInstance(TObject* AObject);
   // Writes one instance; true when the member asks for the inspector to be reset.
-  Boolean WriteInstance(const TRef<ISinglePropertyInfo>& AMember, TObject* AInstance, const TValue& AValue);
+  Boolean WriteInstance(const TRef<IValueMemberInfo>& AMember, TObject* AInstance, const TValue& AValue);
   // The first member, or for a set element the property the set belongs to.
   TRef<IMemberInfo> GetOwnerFirstMember();
   // The value of a Boolean attribute, on the member first, then on the editor class.

@@ -9,6 +9,7 @@ namespace Tarvo {
 void RegisterDesignEditors() {
   RegisterBasicEditors();
   RegisterEnumEditors();
+  RegisterSetEditors();
   RegisterOrdinalEditors();
   RegisterCharEditors();
   RegisterStringEditors();

@@ -10,6 +10,8 @@ namespace Tarvo {
 void RegisterBasicEditors();
 // Enumerations, and Booleans registered by type.
 void RegisterEnumEditors();
+// Sets and their elements' rows.
+void RegisterSetEditors();
 // Integers of every width, with Cardinal registered by type.
 void RegisterOrdinalEditors();
 // 8-bit and wide characters.

@@ -10,6 +10,11 @@
 
 namespace Tarvo {
 
+// Channels of a mask wider than 32 elements.
+TARVO_ENUM(TTypedChannel, ch0, ch1, ch2, ch3, ch4, ch5, ch6, ch7, ch8, ch9, ch10, ch11, ch12, ch13, ch14, ch15, ch16,
+           ch17, ch18, ch19, ch20, ch21, ch22, ch23, ch24, ch25, ch26, ch27, ch28, ch29, ch30, ch31, ch32)
+TARVO_SET(TTypedChannels, TTypedChannel)
+
 class TTypedGadget : public TComponent {
   TARVO_CLASS(TTypedGadget, TComponent)
 public:
@@ -24,6 +29,7 @@ public:
   String FIdent = "start", FText = "ABC", FNotes = "one\ntwo", FFile;
   TShapeType FShape = stRectangle;
   Boolean FFlag = false;
+  TTypedChannels FMask, FUnstoredMask;
 };
 
 // Editors are of class D unless a test names another.

@@ -8,6 +8,8 @@
 
 namespace Tarvo {
 
+TARVO_IMPLEMENT_ENUM(TTypedChannel)
+TARVO_IMPLEMENT_SET(TTypedChannels, TTypedChannel)
 TARVO_IMPLEMENT_CLASS(TTypedGadget)
 TARVO_PUBLISH(TTypedGadget) {
   using T = TTypedGadget;
@@ -37,6 +39,8 @@ TARVO_PUBLISH(TTypedGadget) {
   Property("Shape", &T::FShape, &T::FShape);
   Property("SortedShape", &T::FShape, &T::FShape).Attr<PropertySortListDesignAttribute>();
   Property("Flag", &T::FFlag, &T::FFlag);
+  Property("Mask", &T::FMask, &T::FMask).Default(TTypedChannels());
+  Property("UnstoredMask", &T::FUnstoredMask, &T::FUnstoredMask).Default(TTypedChannels()).Stored(false);
   Public();
   Property("Inner", &T::FInner, &T::FInner);
 }
