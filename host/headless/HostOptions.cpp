@@ -12,8 +12,13 @@ const char* const InspectUsage = "usage: tarvo-inspect [options]\n"
                                  "  --select NAME[,NAME]   the components to select (default: the first one)\n"
                                  "  --set PATH=TEXT        write TEXT through the row's editor (repeatable, in order)\n"
                                  "  --reset PATH           reset the row to its default (repeatable, in order)\n"
+                                 "  --click PATH           click the row's value cell, as on a check box (repeatable,\n"
+                                 "                         in order with --set and --reset)\n"
                                  "  --expand PATH          show the sub-rows of a row (repeatable)\n"
                                  "  --expand-all           show the sub-rows of every row\n"
+                                 "  --filter WORDS         show the rows whose name or value holds all the words, in\n"
+                                 "                         any order and case\n"
+                                 "  --categories           show the rows under their category headings\n"
                                  "  --values PATH          print the row's list of values, one a line, instead of\n"
                                  "                         the rows (after the edits)\n"
                                  "  --json                 print the rows as JSON: an array of row objects, a\n"
@@ -58,6 +63,9 @@ TInspectOptions ParseInspectOptions(const std::vector<String>& AArguments) {
         throw EInspectError("--set expects PATH=TEXT, not \"" + assignment + "\"");
       options.Edits.push_back({TInspectEdit::ekSet, assignment.substr(0, equals), assignment.substr(equals + 1)});
     } else if (option == "--reset") options.Edits.push_back({TInspectEdit::ekReset, argument(), String()});
+    else if (option == "--click") options.Edits.push_back({TInspectEdit::ekClick, argument(), String()});
+    else if (option == "--filter") options.Filter = argument();
+    else if (option == "--categories") options.Categories = true;
     else if (option == "--expand") options.Expand.push_back(argument());
     else if (option == "--expand-all") options.ExpandAll = true;
     else if (option == "--values") {

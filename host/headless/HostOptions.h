@@ -9,7 +9,7 @@
 namespace Tarvo {
 
 struct TInspectEdit {
-  enum TKind { ekSet, ekReset } Kind;
+  enum TKind { ekSet, ekReset, ekClick } Kind;
   String Path;
   String Text; // for ekSet
 };
@@ -21,6 +21,8 @@ struct TInspectOptions {
   std::vector<TInspectEdit> Edits; // in command-line order
   std::vector<String> Expand;
   std::optional<String> Values; // the row whose list of values is printed instead of the rows
+  String Filter;                // words every shown row must match; empty: all rows
+  Boolean Categories = false;   // rows under their category headings
   Boolean ExpandAll = false;
   Boolean Json = false;
   Boolean ListClasses = false;

@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "design/MemberCategoryRegistry.h"
 #include "host/headless/HostDesigner.h"
 #include "host/headless/PackageScope.h"
 #include "host/headless/RowWriters.h"
@@ -62,6 +63,14 @@ void SetValue(TRowModel& AInspector, const THostDesigner& ADesigner, const TInsp
     throw EInspectError(AInspector.Find(AEdit.Path).Path + ": \"" + AEdit.Text + "\" was not accepted");
 }
 
+// The headings of the categories, in the order they were first used.
+std::vector<String> CategoryHeadings() {
+  std::vector<String> headings;
+  for (const TRef<IMemberCategoryInstance>& category : *GMemberCategories)
+    headings.push_back(category->GetCategoryName());
+  return headings;
+}
+
 } // namespace
 
 String RunInspect(const TInspectOptions& AOptions, const TInspectPaths& APaths) {
@@ -81,6 +90,7 @@ String RunInspect(const TInspectOptions& AOptions, const TInspectPaths& APaths) 
   inspector.Refresh();
   for (const TInspectEdit& edit : AOptions.Edits) {
     if (edit.Kind == TInspectEdit::ekSet) SetValue(inspector, *designer, edit);
+    else if (edit.Kind == TInspectEdit::ekClick) inspector.Click(edit.Path);
     else inspector.ResetValue(edit.Path);
     inspector.Refresh();
   }
@@ -90,7 +100,15 @@ String RunInspect(const TInspectOptions& AOptions, const TInspectPaths& APaths) 
     const std::vector<String> values = inspector.Values(*AOptions.Values);
     return AOptions.Json ? ValuesToJson(values) : ValuesToText(values);
   }
-  return AOptions.Json ? RowsToJson(inspector.Rows()) : RowsToText(inspector.Rows());
+  std::vector<TInspectorRow>& rows = inspector.Rows();
+  if (!AOptions.Filter.empty()) {
+    const TRef<IMatches> words = New<TWordsMatch>(AOptions.Filter);
+    std::erase_if(rows, [&](const TInspectorRow& ARow) {
+      return !words->Matches(ARow.Name + " " + ARow.DisplayName + " " + ARow.Value);
+    });
+  }
+  if (AOptions.Json) return RowsToJson(rows);
+  return AOptions.Categories ? RowsToCategoryText(rows, CategoryHeadings()) : RowsToText(rows);
 }
 
 } // namespace Tarvo

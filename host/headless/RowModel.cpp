@@ -4,8 +4,10 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "design/MemberCategoryRegistry.h"
 #include "design/Registry.h"
 #include "design/editors/BasicEditors.h"
+#include "design/paint/EditorPaint.h"
 #include "design/paint/PropertyRange.h"
 #include "reflection/RttiTypes.h"
 #include "rtl/SysUtils.h"
@@ -34,6 +36,15 @@ std::vector<TRef<IMemberInfo>> CommonMembers(const TRef<IObjectArrayList>& ASele
   return result;
 }
 
+// The kind a member counts as for its categories.
+TMemberKind KindOf(const TRef<IMemberInfo>& AMember) {
+  if (Supports<IMethodInfo>(AMember)) return mkMethod;
+  if (Supports<IIndexedPropertyInfo>(AMember)) return mkIndexedProperty;
+  if (Supports<IFieldInfo>(AMember)) return mkField;
+  const TRef<ITypeInfo> type = AMember->GetTypeInfo();
+  return type && type->GetTypeKind() == tkMethod ? mkEvent : mkSingleProperty;
+}
+
 String JoinPath(const String& AParentPath, const String& AName) {
   return AParentPath.empty() ? AName : AParentPath + "." + AName;
 }
@@ -41,16 +52,16 @@ String JoinPath(const String& AParentPath, const String& AName) {
 } // namespace
 
 void SortRows(std::vector<TInspectorRow>& ARows) {
-  std::vector<std::size_t> slots;
+  std::vector<std::size_t> places;
   std::vector<TInspectorRow> sortable;
   for (std::size_t i = 0; i < ARows.size(); ++i)
     if (ARows[i].Editor->GetIsSortable()) {
-      slots.push_back(i);
+      places.push_back(i);
       sortable.push_back(std::move(ARows[i]));
     }
   std::stable_sort(sortable.begin(), sortable.end(),
                    [](const TInspectorRow& A, const TInspectorRow& B) { return CompareText(A.Name, B.Name) < 0; });
-  for (std::size_t i = 0; i < slots.size(); ++i) ARows[slots[i]] = std::move(sortable[i]);
+  for (std::size_t i = 0; i < places.size(); ++i) ARows[places[i]] = std::move(sortable[i]);
 }
 
 TObject* TRowModel::FirstSelected() {
@@ -82,6 +93,13 @@ void TRowModel::ReadRow(TInspectorRow& ARow, const String& AParentPath) {
     ARow.Range = TInspectorRange{range->GetMinValue(), range->GetMaxValue()};
   if (TRef<IPropertySuggestedRange> range; Supports(editor, range))
     ARow.SuggestedRange = TInspectorRange{range->GetSuggestedMinValue(), range->GetSuggestedMaxValue()};
+  if (AParentPath.empty())
+    if (TObject* first = FirstSelected(); first && editor->GetFirstMember()) {
+      const TRef<IMemberInfo> member = editor->GetFirstMember();
+      for (const auto& category :
+           GetMemberCategories(KindOf(member), first->ClassType(), member->GetName(), member->GetTypeInfo()))
+        ARow.Categories.push_back(category->GetCategoryName());
+    }
   if (TRef<IPropertyEditor> property; Supports(editor, property)) {
     ARow.Value = property->GetIsWriteOnly() ? String() : property->GetDisplayValue(nullptr);
     ARow.IsDefault = property->GetIsAllDefault();
@@ -162,6 +180,16 @@ TRef<IPropertyEditor> TRowModel::ValueEditor(const String& APath) {
 void TRowModel::SetValue(const String& APath, const String& AText) { ValueEditor(APath)->SetStringValue(AText); }
 
 void TRowModel::ResetValue(const String& APath) { ValueEditor(APath)->ResetValue(); }
+
+void TRowModel::Click(const String& APath) {
+  const TInspectorRow& row = Find(APath);
+  TRef<IPropertyEditorMouse> mouse;
+  Boolean handled = false;
+  // A cell of a usual row's size; the point lies on the check box's area.
+  const TIGXRect cell(0, 0, 120, 16);
+  if (Supports(row.Editor, mouse)) mouse->ValueMouseUp(mbLeft, TShiftState(), 6, 6, nullptr, cell, handled);
+  if (!handled) throw EInspectError("row \"" + row.Path + "\" takes no click");
+}
 
 std::vector<String> TRowModel::Values(const String& APath) {
   const TInspectorRow& row = Find(APath);

@@ -31,6 +31,7 @@ struct TInspectorRow {
   Boolean Expanded = false;
   std::optional<TInspectorRange> Range;          // when the editor answers IPropertyRange
   std::optional<TInspectorRange> SuggestedRange; // when it answers IPropertySuggestedRange
+  std::vector<String> Categories;                // of a top row, in the categories' order
   TRef<IMemberEditor> Editor;
   std::vector<TInspectorRow> Children;
 };
@@ -55,6 +56,9 @@ public:
   // Through the row editor's own text conversion, to every selected object.
   void SetValue(const String& APath, const String& AText);
   void ResetValue(const String& APath);
+  // A click on the row's value cell at the place a check box takes; raises EInspectError when
+  // the row's editor takes no clicks there.
+  void Click(const String& APath);
   // The drop-down list of the row's editor, as it gives it.
   std::vector<String> Values(const String& APath);
 

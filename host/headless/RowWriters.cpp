@@ -2,6 +2,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <iterator>
+
 namespace Tarvo {
 
 namespace {
@@ -48,6 +51,7 @@ nlohmann::ordered_json ToJson(const std::vector<TInspectorRow>& ARows) {
                                    {"expandable", row.Expandable}};
     if (row.Range) json["range"] = {Limit(row.Range->Min), Limit(row.Range->Max)};
     if (row.SuggestedRange) json["suggested_range"] = {Limit(row.SuggestedRange->Min), Limit(row.SuggestedRange->Max)};
+    json["categories"] = row.Categories;
     json["children"] = ToJson(row.Children);
     result.push_back(std::move(json));
   }
@@ -59,6 +63,24 @@ nlohmann::ordered_json ToJson(const std::vector<TInspectorRow>& ARows) {
 String RowsToText(const std::vector<TInspectorRow>& ARows) {
   String text;
   AppendText(ARows, 0, text);
+  return text;
+}
+
+String RowsToCategoryText(const std::vector<TInspectorRow>& ARows, const std::vector<String>& AHeadings) {
+  static const String Miscellaneous = "Miscellaneous";
+  String text;
+  const auto section = [&](const String& AHeading, auto AIsIn) {
+    std::vector<TInspectorRow> rows;
+    std::copy_if(ARows.begin(), ARows.end(), std::back_inserter(rows), AIsIn);
+    if (rows.empty()) return;
+    text += "[" + AHeading + "]\n";
+    AppendText(rows, 1, text);
+  };
+  for (const String& heading : AHeadings)
+    section(heading, [&](const TInspectorRow& ARow) {
+      return std::find(ARow.Categories.begin(), ARow.Categories.end(), heading) != ARow.Categories.end();
+    });
+  section(Miscellaneous, [](const TInspectorRow& ARow) { return ARow.Categories.empty(); });
   return text;
 }
 

@@ -10,8 +10,12 @@
 namespace Tarvo {
 
 String RowsToText(const std::vector<TInspectorRow>& ARows);
+// The rows under "[Category]" headings, indented one level, in the order of AHeadings; a row in
+// several categories stands under each, a row in none under a last "[Miscellaneous]".
+String RowsToCategoryText(const std::vector<TInspectorRow>& ARows, const std::vector<String>& AHeadings);
 // An array of objects with path, name, display_name, value, editor, default, read_only,
-// expandable, range and suggested_range (each [min, max], only where the row has it) and children.
+// expandable, range and suggested_range (each [min, max], only where the row has it), categories
+// (of top rows) and children.
 String RowsToJson(const std::vector<TInspectorRow>& ARows);
 
 // A row's list of values: one entry a line, or a JSON array of strings.

@@ -67,10 +67,25 @@ TEST(HeadlessToolTest, JsonRowsCarryEveryFieldOfTheRow) {
   };
   const char* expected = R"json({"path": "Offset", "name": "Offset", "display_name": "Offset", "value": "-20",
       "editor": "TIntegerPropertyEditor", "default": false, "read_only": false, "expandable": false,
-      "suggested_range": [-2147483648, 100], "children": []})json";
+      "suggested_range": [-2147483648, 100], "categories": [], "children": []})json";
   EXPECT_EQ(row("Offset"), nlohmann::json::parse(expected));
   EXPECT_EQ(row("Gain")["range"], nlohmann::json({-2147483648LL, 255}));
   EXPECT_EQ(row("Gain")["suggested_range"], nlohmann::json({0, 255}));
+  EXPECT_EQ(row("Enabled")["categories"], nlohmann::json({"Visual", "Behavior"}));
+}
+
+// Categories, the search and the click, each as a user would try them on the scope.
+TEST(HeadlessToolTest, CategoriesFilterAndClick) {
+  TToolRun run = RunTool("--select Scope1 --categories");
+  ASSERT_EQ(run.ExitCode, 0) << run.Err;
+  const std::size_t visual = run.Out.find("[Visual]\n  Color = 0  *\n"),
+                    behavior = run.Out.find("[Behavior]\n  Enabled = True\n"),
+                    rest = run.Out.find("[Miscellaneous]\n  Caption = ");
+  EXPECT_TRUE(visual == 0 && visual < behavior && behavior < rest && rest != String::npos) << run.Out;
+  run = RunTool("--select Scope1 --filter \"count sample\"");
+  EXPECT_EQ(run.Out, "SampleCount = 4000000000  *\n");
+  run = RunTool("--select Scope1 --click Grid --filter grid");
+  EXPECT_EQ(run.Out, "Grid = False  *\n");
 }
 
 // The font name row lists the machine's font families, as the package enumerates them here.
@@ -121,6 +136,8 @@ TEST(HeadlessToolTest, BadInputIsOneClearMessageWithExitCodeTwoAndNothingPrinted
       {"number beyond the type", "--select Scope1 --set Gain=300", "Gain: \"300\" was not accepted"},
       {"text the editor refuses", "--select Filter1 --set Separator=xyz", "Invalid property value"},
       {"row without a list", "--values Frequency", "Frequency: no list of values"},
+      {"row that takes no click", "--select Scope1 --click gain", "row \"Gain\" takes no click"},
+      {"click on no row", "--click Bogus", "no row \"Bogus\""},
       {"list asked twice", "--values SampleRate --values Waveform", "--values may be given once"},
       {"bad design", "--design " + design, design + ": Unknown property 'Pitch' of component 'G' (TSignalGenerator)"}};
   Testing::ForEachRow(cases, [](const auto& bad) {
