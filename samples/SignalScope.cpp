@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "reflection/ListAttributes.h"
+#include "reflection/MemberCategories.h"
 #include "reflection/Publish.h"
 #include "reflection/RangeAttributes.h"
 #include "reflection/StringAttributes.h"
@@ -11,6 +13,10 @@
 
 namespace Signals {
 
+TARVO_IMPLEMENT_ENUM(TCoupling)
+TARVO_IMPLEMENT_ENUM(TTriggerMode)
+TARVO_IMPLEMENT_ENUM(TScopeChannel)
+TARVO_IMPLEMENT_SET(TScopeChannels, TScopeChannel)
 TARVO_IMPLEMENT_CLASS(TSignalScope)
 
 TARVO_PUBLISH(TSignalScope) {
@@ -21,7 +27,9 @@ TARVO_PUBLISH(TSignalScope) {
   Property("TraceColor", &TSignalScope::GetTraceColor, &TSignalScope::SetTraceColor, &TypeInfo_TColor)
       .Default(TSignalScope::DefaultTraceColor);
   Property("Caption", &TSignalScope::GetCaption, &TSignalScope::SetCaption);
-  Property("Gain", &TSignalScope::GetGain, &TSignalScope::SetGain).Default(Byte(1));
+  Property("Gain", &TSignalScope::GetGain, &TSignalScope::SetGain)
+      .Default(Byte(1))
+      .Attr<TMemberCategoryAttribute>(TInputMemberCategory::ClassInfo());
   Property("SampleCount", &TSignalScope::GetSampleCount, &TSignalScope::SetSampleCount)
       .Default(TSignalScope::DefaultSampleCount);
   Property("Position", &TSignalScope::GetPosition, &TSignalScope::SetPosition).Default(Int64(0));
@@ -33,13 +41,24 @@ TARVO_PUBLISH(TSignalScope) {
   Property("Offset", &TSignalScope::GetOffset, &TSignalScope::SetOffset)
       .Default(0)
       .Limits(-TSignalScope::MaxOffset, TSignalScope::MaxOffset)
-      .Attr<SuppressRangeAttribute>();
+      .Attr<SuppressRangeAttribute>()
+      .Attr<TMemberCategoryAttribute>(TInputMemberCategory::ClassInfo());
   Property("TraceName", &TSignalScope::GetTraceName, &TSignalScope::SetTraceName)
       .Default(String("Trace"))
       .Attr<IdentifierStringAttribute>();
   Property("ExportFile", &TSignalScope::GetExportFile, &TSignalScope::SetExportFile, &TypeInfo_TAttributedFileName)
-      .Attr<FileNameDesignAttribute>("CSV files (*.csv)|*.csv|All files|*.*", "csv");
+      .Attr<FileNameDesignAttribute>("CSV files (*.csv)|*.csv|All files|*.*", "csv")
+      .Attr<TMemberCategoryAttribute>(TLinkageMemberCategory::ClassInfo());
   Property("CaptionFont", &TSignalScope::GetCaptionFont, &TSignalScope::SetCaptionFont, &TypeInfo_TFontName);
+  Property("Coupling", &TSignalScope::GetCoupling, &TSignalScope::SetCoupling)
+      .Default(cpDC)
+      .Attr<TMemberCategoryAttribute>(TInputMemberCategory::ClassInfo());
+  Property("TriggerMode", &TSignalScope::GetTriggerMode, &TSignalScope::SetTriggerMode)
+      .Default(tmNormal)
+      .Attr<PropertySortListDesignAttribute>();
+  Property("Channels", &TSignalScope::GetChannels, &TSignalScope::SetChannels)
+      .Default(TScopeChannels{ch1})
+      .Attr<TMemberCategoryAttribute>(TInputMemberCategory::ClassInfo());
   Public();
   Property("RedrawCount", &TSignalScope::GetRedrawCount);
   Method("Peak", &TSignalScope::Peak, {"ACount"});

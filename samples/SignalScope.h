@@ -10,6 +10,14 @@ namespace Signals {
 
 using namespace Tarvo;
 
+// How the input reaches the scope.
+TARVO_ENUM(TCoupling, cpDC, cpAC, cpGround)
+// When a sweep starts; offered sorted by name.
+TARVO_ENUM(TTriggerMode, tmNormal, tmAuto, tmSingle, tmExternal)
+// The inputs of a multi-channel probe, more than fit in 32 bits.
+TARVO_ENUM(TScopeChannel, ch1, ch2, ch3, ch4, ch5, ch6, ch7, ch8, ch9, ch10, ch11, ch12, ch13, ch14, ch15, ch16, ch17, ch18, ch19, ch20, ch21, ch22, ch23, ch24, ch25, ch26, ch27, ch28, ch29, ch30, ch31, ch32, ch33, ch34, ch35, ch36, ch37, ch38, ch39, ch40)
+TARVO_SET(TScopeChannels, TScopeChannel)
+
 class TSignalScope : public TImplements<TWinControl, ILockItem> {
   TARVO_CLASS(TSignalScope, TImplements<TWinControl, ILockItem>)
 
@@ -58,6 +66,13 @@ public:
   void SetExportFile(const String& AValue) { FExportFile = AValue; }
   const String& GetCaptionFont() const { return FCaptionFont; }
   void SetCaptionFont(const String& AValue) { FCaptionFont = AValue; }
+  TCoupling GetCoupling() const { return FCoupling; }
+  void SetCoupling(TCoupling AValue) { FCoupling = AValue; }
+  TTriggerMode GetTriggerMode() const { return FTriggerMode; }
+  void SetTriggerMode(TTriggerMode AValue) { FTriggerMode = AValue; }
+  // The channels shown; only the first 32 are told apart by the inspector's set rows.
+  TScopeChannels GetChannels() const { return FChannels; }
+  void SetChannels(TScopeChannels AValue) { FChannels = AValue; }
 
   // The largest magnitude among the first ACount samples of the source.
   Double Peak(Integer ACount) const;
@@ -83,6 +98,9 @@ private:
   String FTraceName = "Trace";
   String FExportFile;
   String FCaptionFont;
+  TCoupling FCoupling = cpDC;
+  TTriggerMode FTriggerMode = tmNormal;
+  TScopeChannels FChannels{ch1};
   Integer FRedrawCount = 0;
 };
 

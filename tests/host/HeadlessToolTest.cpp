@@ -67,7 +67,7 @@ TEST(HeadlessToolTest, JsonRowsCarryEveryFieldOfTheRow) {
   };
   const char* expected = R"json({"path": "Offset", "name": "Offset", "display_name": "Offset", "value": "-20",
       "editor": "TIntegerPropertyEditor", "default": false, "read_only": false, "expandable": false,
-      "suggested_range": [-2147483648, 100], "categories": [], "children": []})json";
+      "suggested_range": [-2147483648, 100], "categories": ["Input"], "children": []})json";
   EXPECT_EQ(row("Offset"), nlohmann::json::parse(expected));
   EXPECT_EQ(row("Gain")["range"], nlohmann::json({-2147483648LL, 255}));
   EXPECT_EQ(row("Gain")["suggested_range"], nlohmann::json({0, 255}));

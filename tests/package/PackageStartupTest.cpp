@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include "design/MemberCategoryRegistry.h"
 #include "design/Registry.h"
 #include "design/editors/BasicEditors.h"
 #include "package/DesignUnit.h"
@@ -146,9 +147,14 @@ TEST_F(PackageRegistrationsTest, AComponentModuleBringsItsEntriesAndTakesThemAlo
   RegisterPropertyEditor(waveform->GetTypeInfo(), THiddenEditor::ClassInfo());
   RegisterPropertyEditor(TypeInfo<Integer>(), FindClass("TSignalFilter"), "Order", THiddenEditor::ClassInfo());
   const Integer before = GMemberEditors->GetCount();
+  // The scope's members brought their categories; their filters name the module's class.
+  const auto input = GMemberCategories->GetCategory(TInputMemberCategory::ClassInfo());
+  EXPECT_TRUE(input->IsInCategory(mkSingleProperty, FindClass("TSignalScope"), "Gain",
+                                  TTypeInfoHelper::TypeInfo(TypeInfo<Byte>())));
 
   UnloadModule(module);
   EXPECT_EQ(GMemberEditors->GetCount(), before - 2);
+  EXPECT_EQ(dynamic_cast<TMemberCategoryInstance&>(*input).GetFilters(mkSingleProperty)->GetCount(), 0);
   for (const TRef<IMemberEditorItem>& entry : GMemberEditors) {
     const TMemberEditorItem& item = *entry->GetInstance();
     EXPECT_NE(item.MemberType->GetHandle()->Module(), module);
