@@ -73,12 +73,6 @@ private:
   TRef<IValueMemberInfo> FOwner;
 };
 
-// A published member of type T with nothing behind it, for the parts an editor shows of a value.
-template <class T> class TVirtualMemberInfo : public TMemberInfo {
-public:
-  explicit TVirtualMemberInfo(String AName) : TMemberInfo(TypeInfo<T>(), nullptr, std::move(AName), mvPublished) {}
-};
-
 // Members an editor made up, handed out as a type's members are.
 class TARVO_API TDynamicMembers : public TMembersInfo {};
 

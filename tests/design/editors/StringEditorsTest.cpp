@@ -6,9 +6,7 @@
 
 #include "design/editors/FileNameEditor.h"
 #include "design/editors/OrdinalEditors.h"
-#include "design/paint/PaintObjects.h"
 #include "forms/AdvancedStringsEditorForm.h"
-#include "platform/GXGraphics.h"
 #include "platform/ModalSeam.h"
 #include "tests/design/editors/TypedEditorTest.h"
 #include "tests/rtl/ExpectError.h"
@@ -121,27 +119,6 @@ TEST_F(StringEditorsTest, TheFileDialogTakesItsFilterFromTheMember) {
     EXPECT_EQ(FSecond.FFile, code == QDialog::Accepted ? file.fileName().toStdString() : "");
   }
   EXPECT_EQ(Editor<TAttributedFileNameEdit>("Plain")->GetFilterDefaultExt(), (std::pair<String, String>{}));
-}
-
-// A list row shows "Name - " in the row's font on the row's background, then "(ABC)" in the font.
-TEST_F(StringEditorsTest, AFontRowDrawsItsNameAndASample) {
-  QImage image(200, 20, QImage::Format_ARGB32_Premultiplied);
-  image.fill(Qt::white);
-  const auto colours = New<TPaintObjectSet>(TColor(0x0000FF), TColor(0x00FF00)); // red, font green
-  Editor<TFontNamePropertyEditor>("FontName")
-      ->ListDrawValue(TValue("Monospace"), New<TIGXGraphics>(image), nullptr, colours, TIGXRect(10, 0, 180, 20), false);
-  const QFontMetrics label((QFont()));
-  const int sampleAt = 10 + label.horizontalAdvance("Monospace - ");
-  const auto inks = [&](int AFrom, int ATo) {
-    int green = 0;
-    for (int x = AFrom; x < ATo; ++x)
-      for (int y = 0; y < 20; ++y) green += image.pixelColor(x, y).green() > 128;
-    return green;
-  };
-  EXPECT_EQ(image.pixelColor(5, 10), QColor(Qt::white)) << "nothing left of the row";
-  EXPECT_EQ(image.pixelColor(11, 0), QColor(Qt::red));
-  EXPECT_GT(inks(10, sampleAt), 0) << "the name";
-  EXPECT_GT(inks(sampleAt, 190), 0) << "the sample";
 }
 
 // Each font is measured once: a later call takes the cached height whatever height it brings.
