@@ -106,6 +106,7 @@ protected:
 
 using DesignerSelectionTest = DesignerTest;
 
+// A selection change is announced only when the objects or their order differ.
 TEST_F(DesignerSelectionTest, ChangeIsByIdentityAndOrder) {
   TRef<IObjectArrayList> start;
   const auto list = [this](std::vector<TObject*> AObjects) {
@@ -138,6 +139,7 @@ TEST_F(DesignerSelectionTest, ChangeIsByIdentityAndOrder) {
   });
 }
 
+// Nil is the empty selection; the selection handed out is a copy.
 TEST_F(DesignerSelectionTest, NilLeavesAnEmptyListAndCallersGetCopies) {
   Listen(Designer, "L");
   Designer->SetSelection(nullptr);
@@ -206,6 +208,7 @@ TEST_F(DesignerUpdateTest, NoticesInsideABracketAreDroppedNotDeferred) {
   });
 }
 
+// An EndUpdate without its BeginUpdate mutes notices until the count is balanced again.
 TEST_F(DesignerUpdateTest, UnbalancedEndUpdateMutesUntilBalanced) {
   Listen(Designer, "L");
   Designer->EndUpdate();
@@ -228,25 +231,22 @@ TEST_F(DesignerListenerTest, CalledInOrderOfAddingAndALeaverCountsFromTheNextWal
   EXPECT_EQ(Log, (TLog{"X:RefreshView", "Y:RefreshView", "Z:RefreshView", "Y:RefreshView", "Z:RefreshView"}));
 }
 
-TEST_F(DesignerListenerTest, ModifiedFromItsOwnListenerDoesNothing) {
-  Listen(Designer, "A")->OnEvent = [this](const String&) { Designer->Modified(); };
+// Modified from its own listener does nothing and the guard lifts after the walk; a listener's
+// exception stops the walk and leaves Modified guarded.
+TEST_F(DesignerListenerTest, ModifiedIsGuardedAndAnExceptionLeavesItGuarded) {
+  const auto first = Listen(Designer, "A");
+  first->OnEvent = [this](const String&) { Designer->Modified(); };
   Listen(Designer, "B");
   Designer->Modified();
-  Designer->Modified();
-  EXPECT_EQ(Log, (TLog{"A:ItemModified", "B:ItemModified", "A:ItemModified", "B:ItemModified"}));
-}
-
-TEST_F(DesignerListenerTest, ExceptionStopsTheWalkAndLeavesModifiedGuarded) {
-  const auto thrower = Listen(Designer, "A");
-  thrower->OnEvent = [](const String&) { throw EComponentError("refused"); };
-  Listen(Designer, "B");
+  first->OnEvent = [](const String&) { throw EComponentError("refused"); };
   EXPECT_THROW(Designer->Modified(), EComponentError);
-  Designer->RemoveSelectionChangeNotify(thrower);
+  Designer->RemoveSelectionChangeNotify(first);
   Designer->Modified();
   Designer->RefreshView();
-  EXPECT_EQ(Log, (TLog{"A:ItemModified", "B:RefreshView"}));
+  EXPECT_EQ(Log, (TLog{"A:ItemModified", "B:ItemModified", "A:ItemModified", "B:RefreshView"}));
 }
 
+// A subclass's notices carry their object and are sent inside a bracket.
 TEST_F(DesignerListenerTest, SubclassNoticesCarryTheirObjectAndIgnoreBrackets) {
   const auto designer = New<TTestFormDesigner>();
   const auto listener = Listen(designer, "L");
@@ -260,6 +260,7 @@ TEST_F(DesignerListenerTest, SubclassNoticesCarryTheirObjectAndIgnoreBrackets) {
 
 using DesignerComponentTest = DesignerTest;
 
+// The constructor already sees the designing and loading state; the edit root owns the component.
 TEST_F(DesignerComponentTest, ConstructorSeesDesigningAndLoadingState) {
   const struct {
     const char* Name;
@@ -278,6 +279,8 @@ TEST_F(DesignerComponentTest, ConstructorSeesDesigningAndLoadingState) {
   });
 }
 
+// Named through UniqueName, prepared when the class adds members at run time; the stock designer
+// takes the base name as it is and makes unowned designing components.
 TEST_F(DesignerComponentTest, NamedThroughUniqueNameAndPreparedWhenDynamic) {
   const auto designer = New<TTestFormDesigner>();
   const auto* dynamic = Create<TDesignerTestDynamicWidget>(*designer);
@@ -285,10 +288,15 @@ TEST_F(DesignerComponentTest, NamedThroughUniqueNameAndPreparedWhenDynamic) {
   EXPECT_EQ(designer->Asked, (std::vector<String>{"DesignerTestDynamicWidget", "DesignerTestWidget"}));
   EXPECT_EQ(dynamic->GetName(), "DesignerTestDynamicWidget1");
   EXPECT_EQ(plain->GetName(), "DesignerTestWidget2");
-  EXPECT_TRUE(dynamic->Prepared);
-  EXPECT_FALSE(plain->Prepared);
+  EXPECT_TRUE(dynamic->Prepared && !plain->Prepared);
+
+  auto* stock = Create(*Designer);
+  EXPECT_EQ(stock->GetName(), "DesignerTestWidget");
+  EXPECT_TRUE(stock->Owner() == nullptr && stock->StateInConstructor == TComponentState{csDesigning});
+  Designer->DeleteComponent(stock);
 }
 
+// A component that cannot take its name is freed and leaves its owner.
 TEST_F(DesignerComponentTest, ComponentThatCantTakeItsNameIsDisposed) {
   const auto designer = New<TTestFormDesigner>();
   Construct<TComponent>(designer->Root.get())->SetName("DesignerTestWidget1");
@@ -296,17 +304,9 @@ TEST_F(DesignerComponentTest, ComponentThatCantTakeItsNameIsDisposed) {
   EXPECT_EQ(designer->Root->ComponentCount(), 1) << "the nameless component left its owner";
 }
 
-// The stock designer designs, has no edit root and takes the base name as it is.
-TEST_F(DesignerComponentTest, StockDesignerMakesUnownedDesigningComponents) {
-  auto* widget = Create(*Designer);
-  EXPECT_EQ(widget->GetName(), "DesignerTestWidget");
-  EXPECT_EQ(widget->Owner(), nullptr);
-  EXPECT_EQ(widget->StateInConstructor, TComponentState{csDesigning});
-  Designer->DeleteComponent(widget);
-}
-
 using NestedDesignerTest = DesignerTest;
 
+// A nested designer's selection is its object; setting it leaves the outer selection unannounced.
 TEST_F(NestedDesignerTest, ReportsItsObjectAndLeavesTheOuterSelectionAlone) {
   Designer->SetSelection(ListOf({&A, &B}));
   Listen(Designer, "L");

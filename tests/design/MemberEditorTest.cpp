@@ -70,6 +70,7 @@ protected:
   TRef<TDesigner> FDesigner;
 };
 
+// Members are collected once, on the first call, and only from objects that have them.
 TEST_F(MemberEditorTest, MembersAreCollectedOnceWhateverListComesLaterAndOnlyFromObjectsThatHaveThem) {
   const TRef<TMemberEditor> editor = Editor("Width");
   const TRef<IMemberInfoList> first = editor->GetMembers(nullptr);
@@ -81,6 +82,7 @@ TEST_F(MemberEditorTest, MembersAreCollectedOnceWhateverListComesLaterAndOnlyFro
   EXPECT_EQ(Editor("Width")->GetMembers(nullptr)->GetCount(), 1);
 }
 
+// Owner objects: the list given, else the owner object, else the selection.
 TEST_F(MemberEditorTest, OwnerObjectsComeFromTheListTheOwnerOrTheSelection) {
   const TRef<IObjectArrayList> given = New<TObjectArrayList>()->Add(&FLone);
   EXPECT_TRUE(Editor("Width")->GetOwnerObjects(given) == given);
@@ -92,13 +94,15 @@ TEST_F(MemberEditorTest, OwnerObjectsComeFromTheListTheOwnerOrTheSelection) {
   EXPECT_EQ(free->GetOwnerObject(), &FFirst);
 }
 
+// The display name comes from the name attribute, else the member's name; a row bound to no named
+// member shows its name with no member lookup at all.
 TEST_F(MemberEditorTest, DisplayNameFromTheNameAttribute) {
   EXPECT_EQ(Editor("Title")->GetDisplayName(), "Heading");
   EXPECT_EQ(Editor("Width")->GetDisplayName(), "Width");
-  // A row bound to no named member shows its name with no member lookup at all.
   EXPECT_EQ(Editor("")->GetDisplayName(), "");
 }
 
+// The parameter text of a method row, names unknown shown as question marks.
 TEST_F(MemberEditorTest, FunctionParameterStrings) {
   const struct {
     const char *Name, *Method, *Text;
@@ -111,20 +115,20 @@ TEST_F(MemberEditorTest, FunctionParameterStrings) {
   });
 }
 
+// A plain row is visible, has no sub-members and one stored answer per object; the hidden editor
+// is invisible, read-only and not expandable.
 TEST_F(MemberEditorTest, StockAnswersAndTheHiddenEditor) {
   const TRef<TMemberEditor> plain = Editor("Width");
   const TRef<THiddenEditor> hidden = Editor<THiddenEditor>("Width");
   EXPECT_TRUE(plain->GetIsVisible());
-  EXPECT_FALSE(hidden->GetIsVisible());
-  EXPECT_TRUE(hidden->GetIsReadOnly());
-  EXPECT_FALSE(hidden->GetIsExpandable());
-  EXPECT_EQ(hidden->GetEditorName(), "THiddenEditor");
+  EXPECT_TRUE(!hidden->GetIsVisible() && hidden->GetIsReadOnly() && !hidden->GetIsExpandable());
   TRef<IMembersInfo> sub = New<TMembersInfo>();
   EXPECT_FALSE(plain->GetSubMembers(sub, true));
   EXPECT_FALSE(sub);
   EXPECT_EQ(plain->GetIsDefaultsByStored(nullptr)->GetCount(), 2);
 }
 
+// Lifetime: an editor is made unreferenced and ends with its last reference.
 TEST_F(MemberEditorTest, CountStartsAtZeroAndTheLastReleaseEndsTheEditor) {
   bool destroyed = false;
   TWatchedEditor::Destroyed = &destroyed;

@@ -9,6 +9,7 @@
 namespace Tarvo {
 namespace MemberFilterTesting {
 
+// Words match in any order and case, each as often as given; masks take stars, question marks and sets.
 TEST(MatchesTest, WordsAndMasks) {
   const struct {
     const char* Name;

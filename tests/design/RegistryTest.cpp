@@ -40,17 +40,12 @@ constinit const TTypeInfo TypeInfo_TRegTestPoint = TypeRecordOfKind<TRegTestPoin
 class TRegTestOwner : public TObject {
   TARVO_CLASS(TRegTestOwner, TObject)
 public:
-  Integer FLeft = 0;
-  Integer FSecret = 0;
-  String FCaption;
-  String FNotes;
+  Integer FLeft = 0, FSecret = 0, FHidden = 0;
+  String FCaption, FNotes;
   TRegTestSpecialPart* FPart = nullptr;
   TRef<IValueMemberInfo> FValueMember;
-  TRef<IMemberInfo> FPlainMember;
   TRegTestPoint FPoint;
-  Integer FHidden = 0;
   void Run(Integer) {}
-  Integer Count() { return 0; }
 };
 class TRegTestDerivedOwner : public TRegTestOwner {
   TARVO_CLASS(TRegTestDerivedOwner, TRegTestOwner)
@@ -67,7 +62,6 @@ TARVO_PUBLISH(TRegTestOwner) {
   Property("Hidden", &TRegTestOwner::FHidden, &TRegTestOwner::FHidden).Attr<HiddenDesignAttribute>();
   Public();
   Method("Run", &TRegTestOwner::Run, {"ATimes"});
-  Method("Count", &TRegTestOwner::Count);
   Method("Unknown", &TRegTestOwner::Run);
   Private();
   Property("Secret", &TRegTestOwner::FSecret, &TRegTestOwner::FSecret);
@@ -93,9 +87,8 @@ protected:
   void SetUp() override {
     GMemberEditors = New<TLinkedList<TRef<IMemberEditorItem>>>();
     FSavedDefaults = DefaultEditorClasses;
-    DefaultEditorClasses.ByTypeKind[tkInteger] = TRegTestDefaultEditor::ClassInfo();
-    DefaultEditorClasses.ByTypeKind[tkUString] = TRegTestDefaultEditor::ClassInfo();
-    DefaultEditorClasses.ByTypeKind[tkClass] = TRegTestDefaultEditor::ClassInfo();
+    for (TTypeKind kind : {tkInteger, tkUString, tkClass})
+      DefaultEditorClasses.ByTypeKind[kind] = TRegTestDefaultEditor::ClassInfo();
     DefaultEditorClasses.StringEditor = TRegTestStringEditor::ClassInfo();
     DefaultEditorClasses.MultiLineStringEditor = TRegTestEditorB::ClassInfo();
     DefaultEditorClasses.MethodEditor = TMethodEditor::ClassInfo();
@@ -129,6 +122,7 @@ protected:
 
 using V = std::vector<String>;
 
+// A hidden member gets no list at all; a method of unknown parameters an empty one.
 TEST_F(RegistryTest, HiddenMemberGivesNilWhileUnknownParametersGiveAnEmptyList) {
   TRef<IMemberEditorItemList> entries;
   EXPECT_FALSE(GetMemberEditorEntries(Member("Hidden"), &FOwner, entries));
@@ -138,6 +132,7 @@ TEST_F(RegistryTest, HiddenMemberGivesNilWhileUnknownParametersGiveAnEmptyList) 
   EXPECT_EQ(entries->GetCount(), 0);
 }
 
+// Lookup order: entries of equal rank come back in the order registered.
 TEST_F(RegistryTest, TiesComeBackInRegistrationOrder) {
   RegisterPropertyEditor(&TypeInfo_Integer, TRegTestOwner::ClassInfo(), "", TRegTestEditorA::ClassInfo());
   RegisterPropertyEditor(&TypeInfo_Integer, TRegTestOwner::ClassInfo(), "", TRegTestEditorB::ClassInfo());
@@ -148,6 +143,7 @@ TEST_F(RegistryTest, TiesComeBackInRegistrationOrder) {
   EXPECT_EQ(Editors("Left"), (V{"TRegTestEditorB", "TRegTestEditorA"}));
 }
 
+// Which entry replaces which: owner class, derived member type, derived owner class.
 TEST_F(RegistryTest, ReplaceRulesInTheirOrder) {
   // A later entry with an owner class beats an earlier one without.
   RegisterPropertyEditor(&TypeInfo_Integer, TRegTestEditorA::ClassInfo());
@@ -171,6 +167,7 @@ TEST_F(RegistryTest, ReplaceRulesInTheirOrder) {
   EXPECT_EQ(Editors("Caption"), V{"TRegTestEditorA"});
 }
 
+// A class type's entry serves its descendants; an interface's entry does not.
 TEST_F(RegistryTest, ClassAncestryMatchesButInterfaceAncestryDoesNot) {
   RegisterPropertyEditor(ClassType(TRegTestPart::ClassInfo()), TRegTestEditorA::ClassInfo());
   EXPECT_EQ(Editors("Part"), V{"TRegTestEditorA"});
@@ -179,6 +176,7 @@ TEST_F(RegistryTest, ClassAncestryMatchesButInterfaceAncestryDoesNot) {
   EXPECT_FALSE(GetMemberEditorEntries(Member("ValueMember"), &FOwner, entries)); // no default for interfaces here
 }
 
+// Member names compare without case and count only with an owner class.
 TEST_F(RegistryTest, NamesCompareWithoutCaseAndNeedAnOwnerClass) {
   RegisterPropertyEditor(&TypeInfo_Integer, TRegTestOwner::ClassInfo(), "LEFT", TRegTestEditorA::ClassInfo());
   EXPECT_EQ(Editors("Left"), V{"TRegTestEditorA"});
@@ -189,6 +187,7 @@ TEST_F(RegistryTest, NamesCompareWithoutCaseAndNeedAnOwnerClass) {
   EXPECT_EQ(Editors("Left"), V{"TRegTestEditorB"});
 }
 
+// The fallback editors by kind, none for private members or records.
 TEST_F(RegistryTest, FallbackByKindAndVisibility) {
   EXPECT_EQ(Editors("Left"), V{"TRegTestDefaultEditor"});
   EXPECT_EQ(Editors("Caption"), V{"TRegTestStringEditor"});
@@ -204,6 +203,7 @@ TEST_F(RegistryTest, FallbackByKindAndVisibility) {
   EXPECT_EQ(entries->GetCount(), 0);
 }
 
+// Only the member kinds a lookup asks for match: events and sets never do here.
 TEST_F(RegistryTest, EventAndSetKindsNeverMatchARegisteredEntry) {
   RegisterMemberEditor({mkEvent, mkSet}, Type(&TypeInfo_Integer), nullptr, "", TRegTestEditorA::ClassInfo());
   EXPECT_EQ(Editors("Left"), V{"TRegTestDefaultEditor"});
@@ -211,6 +211,7 @@ TEST_F(RegistryTest, EventAndSetKindsNeverMatchARegisteredEntry) {
   EXPECT_EQ(Editors("Left"), V{"TRegTestEditorA"});
 }
 
+// Registering a component's hidden members adds one entry, for the hidden member only.
 TEST_F(RegistryTest, HiddenMembersOfRegisteredComponentsGetTheHiddenEditor) {
   // Level is hidden and its type is met first; the walk goes on into Owner's members, where
   // Hidden is an Integer like Left before it, so it is passed over.
@@ -230,6 +231,7 @@ TEST_F(RegistryTest, HiddenMembersOfRegisteredComponentsGetTheHiddenEditor) {
   EXPECT_EQ(classes->GetItem(0).get(), TRegTestDefaultEditor::ClassInfo());
 }
 
+// The unload sweep drops the entries whose editor or member type lives in the module.
 TEST_F(RegistryTest, UnloadSweepRemovesEntriesOfTheModule) {
   // The member type of one entry lies in the runtime; the other entry is all of this module.
   RegisterPropertyEditor(&TypeInfo_Integer, TRegTestEditorA::ClassInfo());

@@ -2,7 +2,6 @@
 
 #include "design/MemberKinds.h"
 #include "design/SinglePropertyEditor.h"
-#include "design/paint/PropertyEditorHost.h"
 #include "reflection/MemberInfo.h"
 #include "reflection/Publish.h"
 #include "reflection/RowAttributes.h"
@@ -75,6 +74,7 @@ public:
   Integer FCalls = 0;
 };
 
+// Offers a fixed list of modes.
 class TSpeListEditor : public TImplements<TSinglePropertyEditor, IPropertyEditorDropDownStringList> {
   TARVO_CLASS(TSpeListEditor, TImplements<TSinglePropertyEditor, IPropertyEditorDropDownStringList>)
 public:
@@ -90,6 +90,7 @@ public:
   TObject* GetValueForDirectInstance(TObject* AObject) override { return static_cast<TSpeGadget*>(AObject)->FChild; }
 };
 
+// Editor classes carrying type attributes: read-only, and shown nested.
 class TSpeLockedEditor : public TSinglePropertyEditor {
   TARVO_CLASS(TSpeLockedEditor, TSinglePropertyEditor)
 public:
@@ -102,11 +103,11 @@ public:
   using TSinglePropertyEditor::TSinglePropertyEditor;
 };
 
-class TSpeHostedEditor : public TImplements<TSinglePropertyEditor, IPropertyEditorHosted> {
-  TARVO_CLASS(TSpeHostedEditor, TImplements<TSinglePropertyEditor, IPropertyEditorHosted>)
+// Logs the setup a subclass adds when the editor is made.
+class TSpeInitEditor : public TSinglePropertyEditor {
+  TARVO_CLASS(TSpeInitEditor, TSinglePropertyEditor)
 public:
-  using TImplements::TImplements;
-  void ShowHosted(const TRef<IPropertyEditorHost>&) override { GSpeLog.push_back("shown " + GetName()); }
+  using TSinglePropertyEditor::TSinglePropertyEditor;
 
 protected:
   void InitCreate(TSinglePropertyEditor* AInstance) override {
@@ -120,7 +121,7 @@ TARVO_IMPLEMENT_CLASS(TSpeListEditor)
 TARVO_IMPLEMENT_CLASS(TSpeChildEditor)
 TARVO_IMPLEMENT_CLASS(TSpeLockedEditor)
 TARVO_IMPLEMENT_CLASS(TSpeNestedEditor)
-TARVO_IMPLEMENT_CLASS(TSpeHostedEditor)
+TARVO_IMPLEMENT_CLASS(TSpeInitEditor)
 
 const bool GSpeEditorAttributes = [] {
   RegisterTypeAttribute(TSpeLockedEditor::ClassInfo()->ClassTypeRecord(), new ReadOnlyAttribute());
@@ -186,19 +187,14 @@ protected:
   TRef<Testing::TLoggingDesigner> FDesigner;
 };
 
-// ---- Reading ----
-
+// One text when all objects agree, else every object's text joined.
 TEST_F(SinglePropertyEditorTest, DisplayValueShowsOneTextWhenAllAgreeElseAllJoined) {
-  struct Row {
+  const struct {
     const char* Name;
     std::vector<Integer> Levels;
     const char* Text;
-  };
-  const Row rows[] = {{"texts differ", {1, 2, 1}, "1;2;1"},
-                      {"all agree", {4, 4, 4}, "4"},
-                      {"one object", {7}, "7"},
-                      {"no object", {}, ""}};
-  Testing::ForEachRow(rows, [this](const Row& ARow) {
+  } rows[] = {{"texts differ", {1, 2, 1}, "1;2;1"}, {"all agree", {4, 4, 4}, "4"}, {"no object", {}, ""}};
+  Testing::ForEachRow(rows, [this](const auto& ARow) {
     std::vector<TObject*> selection;
     TSpeGadget* gadgets[] = {&FFirst, &FSecond, &FThird};
     for (std::size_t i = 0; i < ARow.Levels.size(); ++i) {
@@ -210,17 +206,7 @@ TEST_F(SinglePropertyEditorTest, DisplayValueShowsOneTextWhenAllAgreeElseAllJoin
   });
 }
 
-TEST_F(SinglePropertyEditorTest, EmptySelectionShowsNothingIsAllDefaultAndWritesNoNotice) {
-  Select({});
-  const TRef<TSinglePropertyEditor> editor = Editor("Level", nullptr, nullptr, Member("Level"));
-  EXPECT_EQ(editor->GetDisplayValue(nullptr), "");
-  EXPECT_TRUE(editor->GetIsAllDefault());
-  EXPECT_TRUE(editor->GetDefaultValue().IsEmpty());
-  EXPECT_EQ(editor->GetDefaultStringValue(), "");
-  editor->SetInstanceValues(1);
-  EXPECT_TRUE(GSpeLog.empty());
-}
-
+// A nil object in a given list reads empty and has no stored answer.
 TEST_F(SinglePropertyEditorTest, NilObjectInAnExplicitListGivesAnEmptyValueAndNoStoredAnswer) {
   FSecond.FStamp = 7; // not stored
   const TRef<TSinglePropertyEditor> editor = Editor("Stamp");
@@ -236,6 +222,7 @@ TEST_F(SinglePropertyEditorTest, NilObjectInAnExplicitListGivesAnEmptyValueAndNo
     EXPECT_FALSE(item.HasStored || item.IsDefault);
 }
 
+// Reads go to the root selection, writes to the selection.
 TEST_F(SinglePropertyEditorTest, ReadsTakeTheRootSelectionAndWritesTheSelection) {
   FDesigner->Root = TObjectArrayList::CreateArray({&FLone});
   const TRef<TSinglePropertyEditor> editor = Editor("Level");
@@ -245,6 +232,7 @@ TEST_F(SinglePropertyEditorTest, ReadsTakeTheRootSelectionAndWritesTheSelection)
   EXPECT_EQ((std::vector<Integer>{FFirst.FLevel, FSecond.FLevel, FThird.FLevel}), (std::vector<Integer>{5, 5, 5}));
 }
 
+// Under a parent row, each selected object stands for its nested object, for reads and writes.
 TEST_F(SinglePropertyEditorTest, ParentEditorMapsSelectedObjectsToTheirNestedObjects) {
   TSpeGadget firstChild{"FirstChild", 10}, secondChild{"SecondChild", 20};
   FFirst.FChild = &firstChild;
@@ -256,9 +244,7 @@ TEST_F(SinglePropertyEditorTest, ParentEditorMapsSelectedObjectsToTheirNestedObj
   EXPECT_EQ(child->GetOwnerObject(), &firstChild);
 
   child->SetInstanceValues(3);
-  EXPECT_EQ(firstChild.FLevel, 3);
-  EXPECT_EQ(secondChild.FLevel, 3);
-  EXPECT_EQ(FFirst.FLevel, 1);
+  EXPECT_TRUE(firstChild.FLevel == 3 && secondChild.FLevel == 3 && FFirst.FLevel == 1);
   EXPECT_EQ(GSpeLog, (TLog{"changed FirstChild", "changed SecondChild", "Modified"}));
 
   GSpeLog.clear();
@@ -270,6 +256,7 @@ TEST_F(SinglePropertyEditorTest, ParentEditorMapsSelectedObjectsToTheirNestedObj
   EXPECT_EQ(child->GetOwnerObject(), nullptr);
 }
 
+// The exact message when the parent row is no single property editor.
 TEST_F(SinglePropertyEditorTest, OwnerObjectUnderAParentThatIsNoPropertyEditorFails) {
   const TRef<TMemberEditor> parent = Editor<TMemberEditor>("Child");
   Testing::ExpectError<EInvalidCast>(
@@ -277,8 +264,7 @@ TEST_F(SinglePropertyEditorTest, OwnerObjectUnderAParentThatIsNoPropertyEditorFa
       "Invalid class typecast: the parent editor TMemberEditor is no single property editor");
 }
 
-// ---- Writing ----
-
+// Write order over a selection: each object then one Modified, and one reset for a refreshing member.
 TEST_F(SinglePropertyEditorTest, RefreshingMemberOnTwoObjectsModifiesOnceThenResetsOnce) {
   Select({&FFirst, &FSecond});
   Editor("Size")->SetInstanceValues(8);
@@ -291,61 +277,51 @@ TEST_F(SinglePropertyEditorTest, RefreshingMemberOnTwoObjectsModifiesOnceThenRes
   EXPECT_EQ(GSpeLog, (TLog{"changed First", "changed Second", "Modified"}));
 }
 
+// A setter's exception stops the walk with the objects before it written and no Modified.
 TEST_F(SinglePropertyEditorTest, SetterExceptionPassesThroughAndLeavesEarlierObjectsWritten) {
   FSecond.FRefuse = true;
   Testing::ExpectError<EDesignPropertyError>([&] { Editor("Guarded")->SetInstanceValues(6); }, "Second refuses 6");
-  EXPECT_EQ(FFirst.FGuarded, 6);
-  EXPECT_EQ(FThird.FGuarded, 0);
+  EXPECT_TRUE(FFirst.FGuarded == 6 && FThird.FGuarded == 0);
   EXPECT_EQ(GSpeLog, TLog{"changed First"});
 }
 
+// Constraints run once per object, for writes and resets alike.
 TEST_F(SinglePropertyEditorTest, ConstraintsAreAppliedAnewForEachObject) {
   const TRef<TSpeStepEditor> editor = Editor<TSpeStepEditor>("Level");
   editor->SetInstanceValues(10);
   EXPECT_EQ((std::vector<Integer>{FFirst.FLevel, FSecond.FLevel, FThird.FLevel}), (std::vector<Integer>{10, 11, 12}));
-  // A reset goes through the constraints as well.
   editor->ResetValue();
   EXPECT_EQ((std::vector<Integer>{FFirst.FLevel, FSecond.FLevel, FThird.FLevel}), (std::vector<Integer>{3, 4, 5}));
 }
 
+// An editor bound to an owner object reads and writes that object only, whatever it is given.
 TEST_F(SinglePropertyEditorTest, OwnerBoundEditorReadsAndWritesOnlyItsOwnObject) {
   const TRef<TSinglePropertyEditor> editor = Editor("Size", &FLone);
   EXPECT_EQ(Texts(Editor("Level", &FLone)->GetInstanceValues(nullptr)), TLog{"9"});
   EXPECT_FALSE(Editor("Level", &FLone)->GetIsAllDefault());
   editor->SetInstanceValue(&FFirst, 4);
-  EXPECT_EQ(FFirst.FSize, 0);
-  EXPECT_EQ(FLone.FSize, 0);
-  EXPECT_TRUE(GSpeLog.empty());
-
+  EXPECT_TRUE(FFirst.FSize == 0 && FLone.FSize == 0 && GSpeLog.empty());
   editor->SetInstanceValue(&FLone, 4);
   EXPECT_EQ(FLone.FSize, 4);
-  EXPECT_EQ(GSpeLog, (TLog{"Size Lone", "changed Lone", "Modified", "ResetObjectInspector"}));
-
   GSpeLog.clear();
   editor->SetInstanceValues(5);
-  EXPECT_EQ(FLone.FSize, 5);
-  EXPECT_EQ(FFirst.FSize, 0);
+  EXPECT_TRUE(FLone.FSize == 5 && FFirst.FSize == 0);
   EXPECT_EQ(GSpeLog, (TLog{"Size Lone", "changed Lone", "Modified", "ResetObjectInspector"}));
 }
-
-// ---- Text in ----
 
 // Text is converted into the first value's type. Text the type or a closed list refuses is dropped
 // silently; text the converter raises on resets the value to its default.
 TEST_F(SinglePropertyEditorTest, TextIsConvertedDroppedOrResets) {
   const TRef<TSinglePropertyEditor> editor = Editor("Level");
   editor->SetStringValue("42");
-  EXPECT_EQ((std::vector<Integer>{FFirst.FLevel, FSecond.FLevel, FThird.FLevel}), (std::vector<Integer>{42, 42, 42}));
-  EXPECT_EQ(GSpeLog.back(), "Modified");
+  EXPECT_TRUE(FFirst.FLevel == 42 && FThird.FLevel == 42);
   GSpeLog.clear();
   editor->SetStringValue("forty");
-  EXPECT_EQ(FFirst.FLevel, 42);
-  EXPECT_TRUE(GSpeLog.empty());
+  EXPECT_TRUE(FFirst.FLevel == 42 && GSpeLog.empty());
 
   const TRef<TSpeListEditor> list = Editor<TSpeListEditor>("Mode");
   EXPECT_NO_THROW(list->SetStringValue("Medium"));
-  EXPECT_EQ(FFirst.FMode, "Fast");
-  EXPECT_TRUE(GSpeLog.empty());
+  EXPECT_TRUE(FFirst.FMode == "Fast" && GSpeLog.empty());
   list->SetStringValue("Slow");
   EXPECT_EQ(FThird.FMode, "Slow");
   // The list closes only a member that says so.
@@ -356,14 +332,13 @@ TEST_F(SinglePropertyEditorTest, TextIsConvertedDroppedOrResets) {
   FFirst.FChild = FSecond.FChild = FThird.FChild = &child;
   GSpeLog.clear();
   Editor("Child")->SetStringValue("Child");
-  EXPECT_EQ(FFirst.FChild, nullptr);
-  EXPECT_EQ(FThird.FChild, nullptr);
+  EXPECT_TRUE(FFirst.FChild == nullptr && FThird.FChild == nullptr);
   EXPECT_EQ(GSpeLog.back(), "Modified");
 }
 
-// ---- Defaults and access ----
-
-TEST_F(SinglePropertyEditorTest, DefaultsPerObject) {
+// Per object, one that doesn't store the value counting as default; no selection at all is all
+// default, has no default value and writes no notice.
+TEST_F(SinglePropertyEditorTest, DefaultsPerObjectAndOfNoSelection) {
   FFirst.FLevel = 0;
   const TRef<TSinglePropertyEditor> editor = Editor("Level");
   EXPECT_EQ(editor->GetIsDefaults(nullptr)->ToArray(), (std::vector<Boolean>{true, false, false}));
@@ -371,13 +346,20 @@ TEST_F(SinglePropertyEditorTest, DefaultsPerObject) {
   EXPECT_EQ(editor->GetDefaultStringValue(), "0");
   FSecond.FLevel = FThird.FLevel = 0;
   EXPECT_TRUE(editor->GetIsAllDefault());
-  // An object that doesn't store the value counts as default.
   FFirst.FStamp = 7;
   FSecond.FStamp = 3;
   EXPECT_EQ(Editor("Stamp")->GetIsDefaults(TObjectArrayList::CreateArray({&FFirst, &FSecond}))->ToArray(),
             (std::vector<Boolean>{true, false}));
+
+  Select({});
+  const TRef<TSinglePropertyEditor> none = Editor("Level", nullptr, nullptr, Member("Level"));
+  EXPECT_TRUE(none->GetIsAllDefault());
+  EXPECT_TRUE(none->GetDefaultValue().IsEmpty() && none->GetDefaultStringValue() == "");
+  none->SetInstanceValues(1);
+  EXPECT_TRUE(GSpeLog.empty());
 }
 
+// Read-only, write-only and has-default by accessors, editor class and set element owner.
 TEST_F(SinglePropertyEditorTest, AccessAndDefaultFlagsOfMembers) {
   const auto of = [this](const char* AMember) { return Editor(AMember, nullptr, nullptr, Member(AMember)); };
   // A set element's own answers are all "no": the editor asks its property instead.
@@ -402,12 +384,10 @@ TEST_F(SinglePropertyEditorTest, AccessAndDefaultFlagsOfMembers) {
   });
 }
 
-// ---- Summary in the parent row ----
-
+// The summary of a row in its parent's text, by attributes, editor class and visibility.
 TEST_F(SinglePropertyEditorTest, DisplayNestedByAttributesAndVisibility) {
   struct Row {
-    const char* Name;
-    const char* Member;
+    const char *Name, *Member;
     bool NestedEditor;
     Integer Value;
     bool Shown;
@@ -434,10 +414,9 @@ TEST_F(SinglePropertyEditorTest, DisplayNestedByAttributesAndVisibility) {
   });
 }
 
-// ---- Construction and listeners ----
-
+// A subclass's setup runs once when made; refresh listeners hear in the order added until removed.
 TEST_F(SinglePropertyEditorTest, SubclassSetupRunsOnceAndListenersHearRefreshInOrder) {
-  const TRef<TSpeHostedEditor> editor = Editor<TSpeHostedEditor>("Level");
+  const TRef<TSpeInitEditor> editor = Editor<TSpeInitEditor>("Level");
   EXPECT_EQ(GSpeLog, TLog{"init Level"});
   const TRef<IRefreshMemberNotify> a = New<TSpeListener>("a"), b = New<TSpeListener>("b");
   editor->AddRefreshNotify(a);
@@ -446,19 +425,12 @@ TEST_F(SinglePropertyEditorTest, SubclassSetupRunsOnceAndListenersHearRefreshInO
   editor->RemoveRefreshNotify(a);
   editor->RefreshView();
   EXPECT_EQ(GSpeLog, (TLog{"init Level", "refresh a", "refresh b", "refresh b"}));
-
-  TRef<IPropertyEditorHosted> hosted;
-  ASSERT_TRUE(Supports(TRef<IPropertyEditor>(editor), hosted));
-  hosted->ShowHosted(nullptr);
-  EXPECT_EQ(GSpeLog.back(), "shown Level");
 }
 
+// The list of editors answers its own interface and is still an array list underneath.
 TEST(PropertyEditorsTest, ListOfEditorsAnswersItsOwnInterface) {
   const TRef<IArrayList<TRef<IPropertyEditor>>> list = New<TPropertyEditors>();
-  TRef<IPropertyEditors> editors;
-  ASSERT_TRUE(Supports(list, editors));
-  EXPECT_EQ(editors->GetCount(), 0);
-  EXPECT_TRUE(Supports<IList>(editors)); // still an array list underneath
+  EXPECT_TRUE(Supports<IPropertyEditors>(list) && Supports<IList>(list));
 }
 
 } // namespace

@@ -7,8 +7,7 @@
 namespace Tarvo {
 namespace VirtualMembersTesting {
 
-// An object as a read-only property: its value whatever the instance, no write, no default, and a
-// row on it is read-only.
+// An object as a read-only property: its value whatever the instance, no write, no default, a read-only row.
 TEST(VirtualMemberTest, IsAReadOnlyPropertyOfItsObject) {
   TOwnedObject<TComponent> item(Construct<TComponent>(nullptr)), other(Construct<TComponent>(nullptr));
   const auto member = New<TVirtualMember>(item.get(), "Item", "_item");
@@ -16,15 +15,12 @@ TEST(VirtualMemberTest, IsAReadOnlyPropertyOfItsObject) {
   member->SetValue(other.get(), TValue(other.get()));
   EXPECT_EQ(member->GetValue(nullptr).AsObject(), item.get());
   EXPECT_EQ(member->GetTypeInfo()->GetName(), "TComponent");
-  EXPECT_EQ(member->GetSaveName(), "_item");
-  EXPECT_FALSE(member->GetIsWritable());
-  EXPECT_FALSE(member->GetIsDefault(item.get(), true));
+  EXPECT_FALSE(member->GetIsWritable() || member->GetIsDefault(item.get(), true));
 
   std::vector<String> log;
   const auto designer = New<Testing::TLoggingDesigner>(log);
   designer->Select({other.get()});
-  const auto editor = Testing::MakeEditor<TSinglePropertyEditor>(designer, "Item", nullptr, nullptr, member);
-  EXPECT_TRUE(editor->GetIsReadOnly());
+  EXPECT_TRUE(Testing::MakeEditor<TSinglePropertyEditor>(designer, "Item", nullptr, nullptr, member)->GetIsReadOnly());
 }
 
 // The name follows the item at every call; the save name keeps the index.

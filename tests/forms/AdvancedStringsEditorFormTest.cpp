@@ -13,9 +13,7 @@ namespace AdvancedStringsEditorFormTesting {
 using Testing::LinesOf;
 using Testing::TLines;
 
-// The editor shows the lines without a break after the last, so that an empty last string shows
-// as a closing break; on OK the list takes the typed text split as TStrings::SetText splits it.
-// Cancel and the caption are the multi-line editor's tests.
+// Shows the lines with no break after the last (an empty last string is a closing break); OK takes the typed lines.
 TEST(AdvancedStringsEditorFormTest, ShowsTheLinesAndTakesTheTypedOnes) {
   const auto list = Testing::ListOf({"a", ""});
   TModalHandlerScope scope([&](QDialog& ADialog) {
@@ -28,8 +26,7 @@ TEST(AdvancedStringsEditorFormTest, ShowsTheLinesAndTakesTheTypedOnes) {
   EXPECT_EQ(LinesOf(*list), (TLines{"Grüße", "", "😀"}));
 }
 
-// Line and column count from 1, a character outside the basic plane is one column, and the line
-// count is what OK would give.
+// Line and column from 1, a character outside the basic plane one column; the line count is what OK would give.
 TEST(AdvancedStringsEditorFormTest, StatusFollowsTheCaret) {
   const struct {
     const char* Name;
@@ -53,6 +50,7 @@ TEST(AdvancedStringsEditorFormTest, StatusFollowsTheCaret) {
   });
 }
 
+// The monospace option switches the editor's font to the fixed family and back.
 TEST(AdvancedStringsEditorFormTest, MonospaceOptionSwitchesTheEditorFont) {
   TAdvancedStringsEditorForm form;
   const QString proportional = form.Editor->font().family();

@@ -21,8 +21,7 @@ TEST(ColorInplaceFormTest, LaysTheWheelAndBarsOut) {
   TColorInplaceForm form;
   TAlphaColorInplaceForm alpha;
   for (TBasicColorInplaceForm* each : std::initializer_list<TBasicColorInplaceForm*>{&form, &alpha}) each->show();
-  EXPECT_EQ(form.height(), 53);
-  EXPECT_EQ(alpha.height(), 72);
+  EXPECT_TRUE(form.height() == 53 && alpha.height() == 72);
   EXPECT_EQ(form.HBHSVWheel->geometry(), QRect(0, 0, 53, 53));
   std::string captions;
   for (auto* label : alpha.findChildren<QLabel*>()) captions += label->text().toStdString();
@@ -44,8 +43,7 @@ TEST(ColorInplaceFormTest, LaysTheWheelAndBarsOut) {
   });
 }
 
-// A colour set from outside fires nothing; one the user sets on a bar fires once and turns the
-// wheel. Red is the low byte of a TColor, the third of an alpha colour.
+// A colour set from outside fires nothing; a bar the user moves fires once and turns the wheel.
 TEST(ColorInplaceFormTest, OnlyTheUsersColourFires) {
   TColorInplaceForm form;
   int changes = 0;
@@ -53,9 +51,8 @@ TEST(ColorInplaceFormTest, OnlyTheUsersColourFires) {
     EXPECT_EQ(ASender, &form);
     ++changes;
   };
-  form.SetColor(0x3366FF);
-  EXPECT_EQ(form.TrackBarRed->value(), 0xFF);
-  EXPECT_EQ(form.TrackBarBlue->value(), 0x33);
+  form.SetColor(0x3366FF); // red is the low byte of a TColor, the third of an alpha colour
+  EXPECT_TRUE(form.TrackBarRed->value() == 0xFF && form.TrackBarBlue->value() == 0x33);
   form.SetColor(0x0000FF);
   EXPECT_EQ(changes, 0);
   form.TrackBarGreen->setValue(255); // red and green: yellow
@@ -70,10 +67,7 @@ TEST(ColorInplaceFormTest, OnlyTheUsersColourFires) {
   alpha.OnColorChange = [&](QWidget*) { ++alphaChanges; };
   alpha.OnEditorEnter = [&](QWidget*) { ++enters; };
   alpha.SetColor(0x80FF4010u);
-  EXPECT_EQ(alphaChanges, 0);
-  EXPECT_EQ(alpha.TrackBarAlpha->value(), 0x80);
-  EXPECT_EQ(alpha.TrackBarRed->value(), 0xFF);
-  EXPECT_EQ(alpha.GetColor(), 0x80FF4010u);
+  EXPECT_TRUE(alphaChanges == 0 && alpha.TrackBarAlpha->value() == 0x80 && alpha.TrackBarRed->value() == 0xFF);
   alpha.TrackBarAlpha->setValue(0x20);
   EXPECT_EQ(alphaChanges, 1);
   EXPECT_EQ(alpha.GetColor(), 0x20FF4010u);
@@ -81,6 +75,7 @@ TEST(ColorInplaceFormTest, OnlyTheUsersColourFires) {
   EXPECT_EQ(enters, 1);
 }
 
+// The wheel takes the hue of the colour set, in sixths of a turn, wrapping round past red.
 TEST(ColorInplaceFormTest, TheWheelTakesTheHueOfTheColour) {
   const struct {
     const char* Name;
@@ -117,6 +112,7 @@ TEST(ColorInplaceFormTest, BlackAndGreyKeepTheWheelsHue) {
   EXPECT_EQ(form.GetColor(), 0);
 }
 
+// Picking on the wheel sets the bars and keeps the hue picked; events in order.
 TEST(ColorInplaceFormTest, DraggingTheWheelSetsTheBarsAndKeepsThePickedHue) {
   TColorInplaceForm form;
   form.show(); // lays the wheel out at 53 by 53
@@ -132,18 +128,15 @@ TEST(ColorInplaceFormTest, DraggingTheWheelSetsTheBarsAndKeepsThePickedHue) {
   EXPECT_EQ(events, (std::vector<std::string>{"change", "change", "enter", "leave"}));
 }
 
+// The bars take the form's colour, the last one set.
 TEST(ColorInplaceFormTest, BarsFollowTheFormsColour) {
   TColorInplaceForm form;
   SetControlColor(&form, clHighlight);
   SetControlColor(&form, 0x102030);
-  const struct {
-    const char* Name;
-    QSlider* Bar;
-  } bars[] = {{"red", form.TrackBarRed}, {"green", form.TrackBarGreen}, {"blue", form.TrackBarBlue}};
-  ForEachRow(bars, [](const auto& ARow) {
-    EXPECT_EQ(GetControlColor(ARow.Bar), 0x102030);
-    EXPECT_EQ(ARow.Bar->palette().color(QPalette::Window), QColor(0x30, 0x20, 0x10));
-  });
+  for (QSlider* bar : {form.TrackBarRed, form.TrackBarGreen, form.TrackBarBlue}) {
+    EXPECT_EQ(GetControlColor(bar), 0x102030) << bar->objectName().toStdString();
+    EXPECT_EQ(bar->palette().color(QPalette::Window), QColor(0x30, 0x20, 0x10));
+  }
 }
 
 } // namespace

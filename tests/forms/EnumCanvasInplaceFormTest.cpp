@@ -25,8 +25,7 @@ TEST(EnumCanvasInplaceFormTest, AddButtonChainsPictureButtons) {
   form.AddButton(New<TIGXBitmap>(30, 12), "Dash", true, 20, 30);
   const auto buttons = form.findChildren<QToolButton*>();
   ASSERT_EQ(buttons.size(), 2);
-  EXPECT_EQ(buttons[0]->geometry(), QRect(2, 2, 35, 21));
-  EXPECT_EQ(buttons[1]->geometry(), QRect(39, 2, 35, 21));
+  EXPECT_TRUE(buttons[0]->geometry() == QRect(2, 2, 35, 21) && buttons[1]->geometry() == QRect(39, 2, 35, 21));
   EXPECT_EQ(buttons[1]->toolTip(), "Dash");
   EXPECT_EQ(buttons[0]->iconSize(), QSize(30, 12));
   EXPECT_TRUE(buttons[0]->isCheckable() && !buttons[0]->isChecked() && buttons[1]->isChecked());

@@ -50,6 +50,7 @@ TEST(HBHSVWheelTest, HSLToRGBTable) {
   });
 }
 
+// A click picks the hue by angle and the saturation by distance, beyond the rim as full, before the press is reported.
 TEST(HBHSVWheelTest, PicksHueByAngleAndSaturationByDistance) {
   THBHSVWheel wheel;
   wheel.resize(53, 53); // centre (26.5, 26.5), radius 25
@@ -71,11 +72,11 @@ TEST(HBHSVWheelTest, PicksHueByAngleAndSaturationByDistance) {
     EXPECT_FLOAT_EQ(wheel.GetSaturation(), pick.Saturation);
   });
   EXPECT_EQ(changes, 3); // hue and saturation together
-  // The wheel picks before it reports the press.
   const auto down = [](Single AHue) { return "down " + std::to_string(AHue); };
   EXPECT_EQ(mouse, (std::vector<std::string>{down(0.25f), "up", down(0.5f), "up", down(0.75f), "up"}));
 }
 
+// Setting a value the wheel already holds reports no change.
 TEST(HBHSVWheelTest, SettersReportRealChangesOnly) {
   THBHSVWheel wheel;
   int changes = 0;

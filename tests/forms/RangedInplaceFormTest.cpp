@@ -31,6 +31,7 @@ int PositionOf(Int64 AValue, Int64 AMin, Int64 AMax) {
   return form.TrackBar->value();
 }
 
+// Bar positions of integer values: rounding, wide ranges in quarters, values outside and empty ranges.
 TEST(NumericInplaceFormTest, PositionTable) {
   const struct {
     const char* Name;
@@ -64,13 +65,12 @@ TEST(NumericInplaceFormTest, PositionTable) {
   });
 }
 
-// A value from the editor fires nothing, nor moves the bar when the form holds it already; the
-// user's does fire. The bar fills the form.
+// A value from the editor fires nothing, nor moves the bar when already held; the user's fires.
 TEST(NumericInplaceFormTest, OnlyTheUsersValueFires) {
   TNumericInplaceForm form;
   form.show();
   EXPECT_EQ(form.height(), 30);
-  EXPECT_EQ(form.TrackBar->geometry(), form.rect());
+  EXPECT_EQ(form.TrackBar->geometry(), form.rect()); // the bar fills the form
   form.SetLimits(Range<Int64>(0, 1000));
   std::vector<Int64> reported;
   form.OnValueChange = [&](QWidget* ASender) {
@@ -78,7 +78,6 @@ TEST(NumericInplaceFormTest, OnlyTheUsersValueFires) {
   };
   form.SetValue(TValue::From<Int64>(250));
   EXPECT_TRUE(reported.empty());
-  EXPECT_EQ(form.GetValue().AsInt64(), 250);
   form.TrackBar->setValue(3072);
   form.TrackBar->setValue(2050); // 500, a little to the right
   EXPECT_EQ(reported, (std::vector<Int64>{750, 500}));
@@ -89,6 +88,7 @@ TEST(NumericInplaceFormTest, OnlyTheUsersValueFires) {
   EXPECT_EQ(reported.size(), 2u);
 }
 
+// Pressing and releasing the bar, and focus in and out, enter and leave the editor.
 TEST(NumericInplaceFormTest, HoldingTheBarEntersAndLeaves) {
   TNumericInplaceForm form;
   form.SetLimits(Range<Int64>(0, 10));
@@ -141,8 +141,6 @@ TEST(RangedInplaceFormTest, TheBarsEndsStayInsideTheFullRanges) {
 TEST(RealInplaceFormTest, PlacesTheValueInQuartersAndReadsItBack) {
   TRealInplaceFormUnit form;
   form.SetLimits(Range<Double>(-1, 1));
-  form.SetValue(TValue::From<Double>(0.5));
-  EXPECT_EQ(form.TrackBar->value(), 3072);
   form.SetValue(TValue::From<Double>(0.1)); // 2252.8
   EXPECT_EQ(form.TrackBar->value(), 2252);
   int changes = 0;

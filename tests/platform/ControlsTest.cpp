@@ -73,6 +73,7 @@ TEST_F(ColorTest, ControlsKeepTheColourAsGivenAndPaintItResolved) {
   EXPECT_EQ(form.palette().color(QPalette::Window), QColor(0xF0, 0x20, 0x30));
 }
 
+// Children of the class asked only, in order, and grandchildren only when recursing.
 TEST(QueryControlsTest, FindsChildrenOfTheClassOnlyAndRecursesWhenAsked) {
   QWidget form;
   auto* first = new QSlider(&form);

@@ -58,6 +58,7 @@ TEST(MainThreadExecuteTest, RunsLaterInOrderAndRoundByRound) {
   EXPECT_EQ(runs, (std::vector<int>{1, 2, 3}));
 }
 
+// Work queued from another thread runs on the main thread.
 TEST(MainThreadExecuteTest, WorkFromAnotherThreadRunsOnTheMainThread) {
   std::thread::id ranOn;
   std::thread worker([&] { MainThreadExecute([&] { ranOn = std::this_thread::get_id(); }); });
@@ -71,10 +72,8 @@ TEST(DragThresholdTest, ADragStartsAtTheSystemDistance) {
   const int saved = QApplication::startDragDistance();
   QApplication::setStartDragDistance(6);
   EXPECT_EQ(GetDragThreshold(), 6);
-  EXPECT_FALSE(IsDragDistance({10, 10}, {10, 10}));
-  EXPECT_FALSE(IsDragDistance({10, 10}, {13, 12}));
-  EXPECT_TRUE(IsDragDistance({10, 10}, {13, 13}));
-  EXPECT_TRUE(IsDragDistance({10, 10}, {4, 10}));
+  EXPECT_FALSE(IsDragDistance({10, 10}, {10, 10}) || IsDragDistance({10, 10}, {13, 12}));
+  EXPECT_TRUE(IsDragDistance({10, 10}, {13, 13}) && IsDragDistance({10, 10}, {4, 10}));
   QApplication::setStartDragDistance(saved);
 }
 

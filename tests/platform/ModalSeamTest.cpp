@@ -11,8 +11,7 @@
 namespace Tarvo {
 namespace {
 
-// The handler fills the dialog; closed with the handler's code as by a click, the dialog settles
-// its selection on OK only.
+// The handler fills the dialog and closes it with its code as by a click; the selection settles on OK only.
 TEST(ModalSeamTest, HandlerFillsAndClosesTheDialog) {
   const struct {
     const char* Name;
@@ -28,12 +27,8 @@ TEST(ModalSeamTest, HandlerFillsAndClosesTheDialog) {
       return code;
     });
     EXPECT_EQ(ExecuteModal(dialog), code);
-    EXPECT_EQ(dialog.result(), code);
-    EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(dialog.selectedColor().isValid(), code == QDialog::Accepted);
-    if (code == QDialog::Accepted) {
-      EXPECT_EQ(dialog.selectedColor(), QColor(10, 20, 30));
-    }
+    EXPECT_TRUE(dialog.result() == code && !dialog.isVisible());
+    EXPECT_EQ(dialog.selectedColor(), code == QDialog::Accepted ? QColor(10, 20, 30) : QColor());
   });
 }
 
@@ -60,6 +55,7 @@ TEST(ModalSeamTest, ScopesNestAndHandlersMayRunNestedDialogs) {
   EXPECT_FALSE(SetModalHandler(nullptr));
 }
 
+// The box shows the message, caption, icon, buttons and default button asked for.
 TEST(MessageDlgTest, ShowsTheMessageWithTheButtonsAsked) {
   QString text, title, defaultText;
   QMessageBox::StandardButtons buttons;
@@ -74,9 +70,7 @@ TEST(MessageDlgTest, ShowsTheMessageWithTheButtonsAsked) {
     return int(QMessageBox::No);
   });
   EXPECT_EQ(MessageDlg("Delete the item?", mtConfirmation, {mbYes, mbNo, mbAll}, mbNo), mbNo);
-  EXPECT_EQ(text, "Delete the item?");
-  EXPECT_EQ(title, "Confirm");
-  EXPECT_EQ(icon, QMessageBox::Question);
+  EXPECT_TRUE(text == "Delete the item?" && title == "Confirm" && icon == QMessageBox::Question);
   EXPECT_EQ(buttons, QMessageBox::Yes | QMessageBox::No | QMessageBox::SaveAll);
   EXPECT_EQ(defaultText.remove('&'), "No");
 }

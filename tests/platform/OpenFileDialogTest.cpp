@@ -6,6 +6,7 @@
 namespace Tarvo {
 namespace OpenFileDialogTesting {
 
+// A filter of description and pattern pairs becomes the dialog's name filters.
 TEST(OpenFileDialogTest, FilterBecomesNameFilters) {
   const struct {
     const char *Name, *Filter;

@@ -96,4 +96,11 @@ inline std::string Colours(const QImage& AImage, int AY, int AFrom, int ACount) 
   return row;
 }
 
+// ACount rows of pixels from row AY as colour letters, separated by '/'.
+inline std::string ColourRows(const QImage& AImage, int AY, int ACount, int AWidth) {
+  std::string rows;
+  for (int y = AY; y < AY + ACount; ++y) rows += (y > AY ? "/" : "") + Colours(AImage, y, 0, AWidth);
+  return rows;
+}
+
 } // namespace Tarvo::Testing

@@ -54,19 +54,17 @@ protected:
   }
 };
 
-// Made for the row's rectangle, wired and filled before it joins the grid, then shown under the
-// row at its own height in the colour of a plain row.
+// Made for the row's rectangle and filled before it joins the grid, then shown under the row at its own height.
 TEST_F(InplaceFormControllerTest, OpensTheFormUnderTheRowAtItsOwnHeight) {
   FGrid.show();
   const auto form = Open("grid", 40);
   auto* widget = static_cast<TProbeForm*>(form->GetForm());
   EXPECT_EQ(Made, (std::vector<TIGXRect>{TIGXRect(5, 40, 120, 16)}));
-  EXPECT_EQ(widget->ParentWhenUpdated, nullptr);
-  EXPECT_EQ(widget->parentWidget(), &FGrid);
+  EXPECT_TRUE(widget->ParentWhenUpdated == nullptr && widget->parentWidget() == &FGrid);
   EXPECT_EQ(widget->geometry(), QRect(5, 40, 120, TProbeForm::OwnHeight));
   EXPECT_EQ(form->GetHeight(), TProbeForm::OwnHeight);
   EXPECT_TRUE(widget->isVisible());
-  EXPECT_EQ(GetControlColor(widget), clWindow);
+  EXPECT_EQ(GetControlColor(widget), clWindow); // the colour of a plain row
 }
 
 // Forms stay listed until dropped; closing any of them ends the edit of the grid opened last.
@@ -75,8 +73,7 @@ TEST_F(InplaceFormControllerTest, KeepsItsFormsAndTheLatestGridHandle) {
   EXPECT_EQ(FController->GetUIUpdate(), second->GetUIUpdate());
   auto forms = FController->GetForms();
   ASSERT_EQ(forms->GetCount(), 2);
-  EXPECT_EQ(forms->GetItem(0).Form, first->GetForm());
-  EXPECT_EQ(forms->GetItem(0).UIUpdate, first->GetUIUpdate());
+  EXPECT_TRUE(forms->GetItem(0).Form == first->GetForm() && forms->GetItem(0).UIUpdate == first->GetUIUpdate());
   EXPECT_EQ(forms->GetItem(1).Form, second->GetForm());
 
   first->GetForm()->close();
@@ -88,8 +85,7 @@ TEST_F(InplaceFormControllerTest, KeepsItsFormsAndTheLatestGridHandle) {
   EXPECT_NE(first->GetForm(), nullptr); // dropping forgets; the grid's handle still holds the form
 }
 
-// A form that outlives its controller closes without a word; one its parent took down leaves
-// a handle that answers as for no form.
+// Lifetime: a form outliving its controller closes silently; one its parent took down leaves a handle of no form.
 TEST_F(InplaceFormControllerTest, FormsOutlivingTheirControllerOrDestroyedFromOutsideAreSafe) {
   const auto orphan = Open("a", 0);
   auto* grid = new QWidget();
@@ -126,6 +122,7 @@ TEST(InplaceFormTest, TheHandleMovesTheFormAndTakesItAlong) {
   EXPECT_TRUE(widget.isNull());
 }
 
+// A new colour repaints the form at once; the colour it has already repaints nothing.
 TEST(InplaceFormTest, UpdateColorRepaintsOnlyOnAChange) {
   QWidget grid;
   auto* widget = new TProbeForm();

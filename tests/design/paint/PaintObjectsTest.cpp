@@ -17,32 +17,29 @@ TEST(PaintObjectsTest, SetsResolveTheirBrushesAndRowsTakeWindowAndHighlightColou
   const auto set = New<TPaintObjectSet>(clHighlight, TColor(0x0080FF));
   EXPECT_EQ(BrushColor(set->GetBackgroundBrush()), MakeColor(clHighlight));
   EXPECT_EQ(BrushColor(set->GetFontBrush()), 0xFFFF8000u);
-  EXPECT_FALSE(set->GetHostObject());
+  EXPECT_EQ(set->GetBkgColor(), clHighlight);
 
   const auto list = New<TItemObjectSet>();
-  EXPECT_EQ(list->GetNone()->GetBkgColor(), clWindow);
-  EXPECT_EQ(list->GetNone()->GetFontColor(), clWindowText);
-  EXPECT_EQ(list->GetHighlighted()->GetBkgColor(), clHighlight);
-  EXPECT_EQ(list->GetHighlighted()->GetFontColor(), clHighlightText);
+  EXPECT_EQ((std::pair{list->GetNone()->GetBkgColor(), list->GetNone()->GetFontColor()}),
+            (std::pair{clWindow, clWindowText}));
+  EXPECT_EQ((std::pair{list->GetHighlighted()->GetBkgColor(), list->GetHighlighted()->GetFontColor()}),
+            (std::pair{clHighlight, clHighlightText}));
   EXPECT_EQ(list->GetSelected(), list->GetHighlighted());
 }
 
-// Only a host gives bitmaps.
+// The stock font and format of a row; the design's family is kept by name, installed or not, and
+// drawing finds an installed one for it. Only a host gives bitmaps.
 TEST(PaintObjectsTest, DefaultsAndTheirFontFallback) {
   const auto objects = New<TPaintObjects>();
   const auto font = objects->GetFont();
-  EXPECT_EQ(font->GetSize(), 8.0f);
-  EXPECT_EQ(font->GetUnit(), fuPoint);
-  EXPECT_EQ(font->GetStyle(), gfsRegular);
+  EXPECT_TRUE(font->GetSize() == 8.0f && font->GetUnit() == fuPoint && font->GetStyle() == gfsRegular);
   EXPECT_EQ(objects->GetModifiedFont()->GetStyle(), gfsBold);
   EXPECT_EQ(objects->GetModifiedFont()->GetFamily(), font->GetFamily());
-  // The design's family is kept by name, installed or not; drawing finds an installed one for it.
   EXPECT_EQ(font->GetFamily(), "Microsoft Sans Serif");
   EXPECT_TRUE(QFontDatabase::families().contains(QFontInfo(font->ToQFont()).family()));
   const auto format = objects->GetStringFormat();
-  EXPECT_EQ(format->GetFormatFlags(), sfNoWrap);
-  EXPECT_EQ(format->GetTrimming(), stEllipsisCharacter);
-  EXPECT_EQ(format->GetLineAlignment(), saCenter);
+  EXPECT_TRUE(format->GetFormatFlags() == sfNoWrap && format->GetTrimming() == stEllipsisCharacter &&
+              format->GetLineAlignment() == saCenter);
   EXPECT_FALSE(objects->GetCheckedBitmap() || objects->GetUncheckedBitmap() || objects->GetGrayedBitmap());
 }
 
@@ -52,6 +49,7 @@ protected:
   void TearDown() override { FinalizeDesignPaintObjects(); }
 };
 
+// A hook set by the host answers every call and the default is never built.
 TEST_F(DesignPaintObjectsTest, TheHookAnswersAloneAndLeavesTheDefaultUnbuilt) {
   const TRef<IPaintObjects> hosts = New<TPaintObjects>();
   int calls = 0;
@@ -62,6 +60,7 @@ TEST_F(DesignPaintObjectsTest, TheHookAnswersAloneAndLeavesTheDefaultUnbuilt) {
   EXPECT_FALSE(DesignPaintObjectsBuilt());
 }
 
+// The default is built once and dropped, with the hook, by the finalization.
 TEST_F(DesignPaintObjectsTest, TheDefaultIsBuiltOnceAndGoesWithTheFinalization) {
   const auto first = GetDesignPaintObjects();
   EXPECT_TRUE(DesignPaintObjectsBuilt());
