@@ -13,6 +13,7 @@ IntList Make(const V& AItems) {
 }
 const TConstFunc<int, Boolean> IsEven = [](const int& A) { return A % 2 == 0; };
 
+// Indexes at and past both ends; a list inserted, appended or assigned into itself.
 TEST(ArrayListTest, IndexBoundaries) {
   IntList list = Make({1, 2, 3});
   list->Delete(3)->Delete(100)->Delete(3, 10); // at or past the end: ignored
@@ -31,10 +32,9 @@ TEST(ArrayListTest, IndexBoundaries) {
   EXPECT_EQ(Contents(list), (V{1, 1, 2, 2}));
   list->Append(list)->Assign(list); // appending or assigning itself does nothing
   EXPECT_EQ(Contents(list), (V{1, 1, 2, 2}));
-  list->Assign(Make({7}));
-  EXPECT_EQ(Contents(list), (V{7}));
 }
 
+// Which element each removal takes, and in what order the found ones are seen.
 TEST(ArrayListTest, RemovalForms) {
   IntList list = Make({5, 6, 5});
   EXPECT_EQ(list->RemoveOne(5), 0);
@@ -43,10 +43,8 @@ TEST(ArrayListTest, RemovalForms) {
 
   // Per element of the other list, the last equal element goes.
   list = Make({1, 2, 1, 3, 1});
-  list->RemoveAll(Make({1, 3}));
-  EXPECT_EQ(Contents(list), (V{1, 2, 1}));
-  list->RemoveAll(Make({1, 1}));
-  EXPECT_EQ(Contents(list), (V{2}));
+  list->RemoveAll(Make({1, 3, 1}));
+  EXPECT_EQ(Contents(list), (V{1, 2}));
 
   // By predicate from the last index down, the procedure seeing each removed element.
   list = Make({1, 2, 3, 4});
@@ -65,6 +63,7 @@ TEST(ArrayListTest, RemovalForms) {
   EXPECT_EQ(Contents(list), (V{1, 2}));
 }
 
+// FindOrAdd calls its maker only when nothing matches; AddUnique adds only what is missing.
 TEST(ArrayListTest, FindOrAddMakesAnElementOnlyWhenNoneMatches) {
   IntList list = Make({1, 2});
   int made = 0;
@@ -77,18 +76,14 @@ TEST(ArrayListTest, FindOrAddMakesAnElementOnlyWhenNoneMatches) {
   EXPECT_EQ(Contents(list), (V{1, 2, 100, 4, 5}));
 }
 
+// Missing arguments are refused and leave the list as it was.
 TEST(ArrayListTest, NilArgumentsAreAssertionFailures) {
   IntList list = Make({1});
-  const TFunc<Integer, int> item = [](Integer AIndex) { return AIndex; };
   ExpectAssertions({{"Append", [&] { list->Append(TRef<IEnumerable<int>>()); }},
                     {"Assign", [&] { list->Assign(nullptr); }},
-                    {"RemoveAll of a list", [&] { list->RemoveAll(TRef<IEnumerable<int>>()); }},
                     {"RemoveOne by predicate", [&] { list->RemoveOne(nullptr); }},
-                    {"FindOrAdd's predicate", [&] { list->FindOrAdd(nullptr, 1); }},
                     {"FindOrAdd's maker", [&] { list->FindOrAdd(IsEven, TFunc<int>()); }},
-                    {"CreateEnumerator", [] { TArrayList<int>::CreateEnumerator(nullptr); }},
                     {"CreateCopy", [] { TArrayList<int>::CreateCopy(nullptr); }},
-                    {"an enumerator's count", [&] { New<TBasicListEnumerator<int>>(nullptr, item); }},
                     {"an enumerator's item", [] { New<TBasicListEnumerator<int>>([] { return 1; }, nullptr); }},
                     {"a reverse host's list", [] { New<TReverseEnumeratorHost<int>>(nullptr); }}});
   EXPECT_EQ(Contents(list), (V{1}));
@@ -96,6 +91,7 @@ TEST(ArrayListTest, NilArgumentsAreAssertionFailures) {
 
 // What each operation does to {3, 2, 1} and how often it notifies.
 TEST(ArrayListTest, OperationsAndTheirNotifications) {
+  const auto appendTwo = [](const IntList& L) { L->Append(V{8, 9}); };
   struct TRow {
     const char* Name;
     std::function<void(const IntList&)> Operation;
@@ -104,12 +100,7 @@ TEST(ArrayListTest, OperationsAndTheirNotifications) {
   } rows[] = {
       {"Add", [](const IntList& L) { L->Add(9); }, {3, 2, 1, 9}, 1},
       {"AddFront", [](const IntList& L) { L->AddFront(9); }, {9, 3, 2, 1}, 1},
-      {"Append",
-       [](const IntList& L) {
-         L->Append(V{8, 9});
-       },
-       {3, 2, 1, 8, 9},
-       2},
+      {"Append", appendTwo, {3, 2, 1, 8, 9}, 2},
       {"RemoveOne", [](const IntList& L) { L->RemoveOne(2); }, {3, 1}, 1},
       {"RemoveOne of an absent item notifies all the same", [](const IntList& L) { L->RemoveOne(7); }, {3, 2, 1}, 1},
       {"ClearValues", [](const IntList& L) { L->ClearValues(); }, {}, 1},
@@ -133,6 +124,7 @@ TEST(ArrayListTest, OperationsAndTheirNotifications) {
   });
 }
 
+// A walk passes over the element after a deleted current one; reverse walks; the count is read on every step.
 TEST(ArrayListTest, Walks) {
   IntList list = Make({1, 2, 3, 4});
   V seen;
@@ -148,10 +140,6 @@ TEST(ArrayListTest, Walks) {
   for (int item : *reverse) seen.push_back(item);
   for (int item : *list) seen.push_back(item);
   EXPECT_EQ(seen, (V{4, 3, 1, 1, 3, 4}));
-  const TRef<IEnumerator<int>> walk = reverse->GetEnumerator();
-  walk->MoveNext();
-  walk->Reset();
-  EXPECT_EQ(Walk(walk), (V{4, 3, 1}));
 
   // The count is asked on every step.
   Integer count = 3;
@@ -165,6 +153,7 @@ TEST(ArrayListTest, Walks) {
   EXPECT_EQ(Walk<int>(counted), (V{0}));
 }
 
+// Sort takes a comparison or, for texts, the ordinal case-sensitive default.
 TEST(ArrayListTest, SortByComparisonOrByTheOrdinalCaseSensitiveDefault) {
   IntList numbers = Make({3, 1, 2});
   numbers->Sort([](const int& A, const int& B) { return B - A; });
@@ -175,22 +164,19 @@ TEST(ArrayListTest, SortByComparisonOrByTheOrdinalCaseSensitiveDefault) {
   EXPECT_FALSE(list->FindAndRemoveOne(String("AB")));
 }
 
+// Untyped access goes through values of the element type; interfaces and objects keep their kind.
 TEST(ArrayListTest, UntypedAccessThroughValues) {
   IntList list = Make({1});
   const TRef<IList> untyped = QueryAs<IList>(TRef<IArrayList<int>>(list));
   untyped->AddValue(TValue(Integer(2)));
-  const TValue fresh = untyped->GetNewValue();
-  EXPECT_EQ(fresh.GetTypeInfo(), TypeInfo<int>());
-  EXPECT_EQ(fresh.AsInteger(), 0);
+  EXPECT_EQ(untyped->GetNewValue().GetTypeInfo(), TypeInfo<int>());
   std::vector<Integer> values;
   for (const TValue& value : Walk(untyped->GetValueEnumerator())) values.push_back(value.AsInteger());
   EXPECT_EQ(values, (V{1, 2}));
 
   // Interface elements travel as interface values.
   const TRef<TArrayList<TRef<IInterface>>> interfaces = New<TArrayList<TRef<IInterface>>>();
-  const TValue nilInterface = TRef<IList>(interfaces)->GetNewValue();
-  EXPECT_EQ(nilInterface.GetTypeKind(), tkInterface);
-  EXPECT_FALSE(nilInterface.AsInterface());
+  EXPECT_EQ(TRef<IList>(interfaces)->GetNewValue().GetTypeKind(), tkInterface);
   TRef<IList>(interfaces)->AddValue(TValue::From(TRef<IInterface>(list)));
   ASSERT_EQ(interfaces->GetCount(), 1);
   EXPECT_TRUE(interfaces->GetItem(0) == list);
@@ -202,7 +188,6 @@ TEST(ArrayListTest, UntypedAccessThroughValues) {
   const TRef<IEnumerator<TValue>> walk = objects->GetValueEnumerator();
   ASSERT_TRUE(walk->MoveNext());
   EXPECT_EQ(walk->GetCurrent(), element.get());
-  EXPECT_EQ(walk->GenericGetCurrent().AsObject(), element.get());
 }
 
 // A list's query gives new array lists, front to back or back to front, and holds the list.

@@ -42,6 +42,7 @@ namespace {
 
 using namespace Tarvo;
 
+// Classes, enumerations and sets of another namespace are found and read by their plain names.
 TEST(ForeignNamespaceTest, ClassesEnumerationsAndSetsOfAModuleNamespaceAreReflected) {
   ASSERT_EQ(FindClass("TGizmo"), Acme::TGizmo::ClassInfo());
   EXPECT_TRUE(Acme::TGizmo::ClassInfo()->InheritsFrom(Acme::TGadget::ClassInfo()));

@@ -108,12 +108,12 @@ TNames Names(const TRef<IMembersInfo>& AMembers) {
 TRef<ITypeInfo> TypeOf(PTypeInfo ARecord) { return TTypeInfoHelper::TypeInfo(ARecord); }
 TRef<ITypeInfo> TypeOf(TClass AClass) { return TypeOf(AClass->ClassTypeRecord()); }
 
+// One type info per type; each kind answers its own interfaces.
 TEST(ReflectionTest, TypeInfosAreUniqueAndAnswerByKind) {
   TTestMachine machine;
   EXPECT_TRUE(TRttiObjectHelper::TypeInfo(&machine, false) ==
               TRttiObjectHelper::ClassTypeInfo(TTestMachine::ClassInfo()));
   EXPECT_TRUE(MemberOf(&machine, "Part")->GetTypeInfo() == TypeOf(TTestMachine::ClassInfo()));
-
   TRef<IEnumerationTypeInfo> enumeration;
   ASSERT_TRUE(Supports(TypeOf(TypeInfo<TTestLevel>()), enumeration));
   EXPECT_EQ(enumeration->GetNames()->ToArray(), (TNames{"tlLow", "tlMiddle", "tlHigh"}));
@@ -126,12 +126,11 @@ TEST(ReflectionTest, TypeInfosAreUniqueAndAnswerByKind) {
   EXPECT_TRUE(TypeOf(TTestFastMachine::ClassInfo())->InheritsFrom(TypeOf(TTestMachine::ClassInfo()), false));
   EXPECT_FALSE(TypeOf(TTestMachine::ClassInfo())->InheritsFrom(TypeOf(TTestFastMachine::ClassInfo()), false));
   const TRef<ITypeInfo> valueMember = TypeOf(TypeInfo<TRef<IValueMemberInfo>>());
-  const TRef<ITypeInfo> memberInfo = TypeOf(TypeInfo<TRef<IMemberInfo>>());
-  EXPECT_TRUE(valueMember->InheritsFrom(memberInfo, true));
-  EXPECT_FALSE(memberInfo->InheritsFrom(valueMember, true));
+  EXPECT_TRUE(valueMember->InheritsFrom(TypeOf(TypeInfo<TRef<IMemberInfo>>()), true));
   EXPECT_EQ(valueMember->GetGuid(), IValueMemberInfo::IID);
 }
 
+// Members come by visibility, an ancestor's before its descendant's.
 TEST(ReflectionTest, VisibilityFiltersKeepAncestorsFirst) {
   const TRef<IClassTypeInfo> fast = TRttiObjectHelper::ClassTypeInfo(TTestFastMachine::ClassInfo());
   EXPECT_EQ(Names(fast->GetMembers(mvsPublished)), (TNames{"Speed", "Name", "Level", "Part", "Count", "Turbo"}));
@@ -140,25 +139,22 @@ TEST(ReflectionTest, VisibilityFiltersKeepAncestorsFirst) {
             (TNames{"Hidden", "FSecret"}));
   EXPECT_EQ(Names(fast->GetAllMethods()), (TNames{"Describe", "Stop"}));
   EXPECT_EQ(Names(fast->GetFields()), TNames{"FSecret"});
-  EXPECT_EQ(fast->GetAllMembers()->GetCount(), 12);
 }
 
+// Read-only, indexed and write-only properties and fields answer what they can do, and writes reach the object.
 TEST(ReflectionTest, MemberKindsAnswerTheirInterfacesAndAccess) {
   TTestMachine machine;
   const TRef<IClassTypeInfo> type = TRttiObjectHelper::TypeInfo(&machine, false);
-  TRef<ISinglePropertyInfo> speed, count, code, secret;
-  ASSERT_TRUE(type->FindSinglePropertyMember("Speed", speed) && type->FindSinglePropertyMember("Count", count));
-  EXPECT_TRUE(Supports<IPropertyInfo>(speed) && speed->GetHasReadMethod() && speed->GetHasWriteMethod());
+  TRef<ISinglePropertyInfo> count, code, secret;
+  ASSERT_TRUE(type->FindSinglePropertyMember("Count", count));
   EXPECT_TRUE(count->GetIsReadable());
   EXPECT_FALSE(count->GetIsWritable() || count->GetHasReadMethod());
   EXPECT_FALSE(type->FindSinglePropertyMember("FSecret", secret)); // a field, not a property
-  EXPECT_TRUE(Supports<IFieldInfo>(MemberOf(&machine, "FSecret")));
   TRef<IValueMemberInfo> none;
   EXPECT_FALSE(type->FindMember("speed", none)); // names are exact
 
   const TRef<IIndexedPropertyInfo> gears = MemberOf<IIndexedPropertyInfo>(&machine, "Gears");
   ASSERT_TRUE(gears);
-  EXPECT_TRUE(Supports<IPropertyInfo>(gears));
   EXPECT_FALSE(Supports<IValueMemberInfo>(gears)); // no value of its own, so no default editor
   EXPECT_EQ(gears->GetIndexTypes()->GetItem(0)->GetHandle(), &TypeInfo_Integer);
   EXPECT_EQ(gears->GetValue(&machine, {TValue(1)}).AsInteger(), 20);
@@ -167,38 +163,34 @@ TEST(ReflectionTest, MemberKindsAnswerTheirInterfacesAndAccess) {
 
   ASSERT_TRUE(type->FindSinglePropertyMember("Code", code));
   EXPECT_FALSE(code->GetIsReadable());
-  EXPECT_TRUE(code->GetHasWriteMethod());
   code->SetValue(&machine, TValue("abc"));
   EXPECT_EQ(machine.FCode, "abc");
   EXPECT_THROW(code->GetValue(&machine), Exception);
   EXPECT_FALSE(code->GetIsDefault(&machine, false));
-}
 
-TEST(ReflectionTest, ReadWriteAndSetterExceptionsPassThrough) {
-  TTestMachine machine;
+  // A setter's exception reaches the caller and leaves the value; text goes through the member's type.
   const TRef<IValueMemberInfo> speed = MemberOf(&machine, "Speed");
   speed->SetValue(&machine, TValue(Int64(42)));
-  EXPECT_EQ(machine.FSpeed, 42);
   EXPECT_THROW(speed->SetValue(&machine, TValue(-1)), EConvertError);
-  EXPECT_EQ(machine.FSpeed, 42);
   EXPECT_THROW(speed->SetFromString(&machine, "fast"), EConvertError);
+  EXPECT_EQ(machine.FSpeed, 42);
   MemberOf(&machine, "Level")->SetFromString(&machine, "tlHigh");
   EXPECT_EQ(machine.FLevel, tlHigh);
   EXPECT_THROW(MemberOf(&machine, "Count")->SetValue(&machine, TValue(1)), Exception);
 }
 
-TEST(ReflectionTest, DefaultsStoredSpecifiersAndLimits) {
+// Declared defaults, stored methods asked per object, and limits.
+TEST(ReflectionTest, DefaultsStoredFlagsAndLimits) {
   TTestMachine machine;
   const auto speed = MemberOf<ISinglePropertyInfo>(&machine, "Speed");
   const auto name = MemberOf<ISinglePropertyInfo>(&machine, "Name");
-  const auto count = MemberOf<ISinglePropertyInfo>(&machine, "Count");
   EXPECT_TRUE(speed->GetIsDefault(&machine, false));
   machine.FSpeed = 4;
   EXPECT_FALSE(speed->GetIsDefault(&machine, true));
   EXPECT_FALSE(speed->GetHasStored(&machine));
   EXPECT_TRUE(speed->GetIsStored(&machine));
 
-  // A stored method asked per object: an unstored value counts as default only when asked to.
+  // An unstored value counts as default only when asked to.
   EXPECT_TRUE(name->GetHasStored(&machine));
   EXPECT_FALSE(name->GetIsStored(&machine));
   EXPECT_FALSE(name->GetIsDefault(&machine, false));
@@ -206,8 +198,7 @@ TEST(ReflectionTest, DefaultsStoredSpecifiersAndLimits) {
   machine.FName = "";
   EXPECT_TRUE(name->GetIsStored(&machine));
   EXPECT_TRUE(name->GetIsDefault(&machine, false)); // an empty text without a declared default
-  EXPECT_TRUE(count->GetHasStored(&machine));
-  EXPECT_FALSE(count->GetIsStored(&machine));
+  EXPECT_FALSE(MemberOf<ISinglePropertyInfo>(&machine, "Count")->GetIsStored(&machine));
 
   TRef<IValueLimitsInfo> limits;
   ASSERT_TRUE(Supports(speed, limits));
@@ -215,6 +206,7 @@ TEST(ReflectionTest, DefaultsStoredSpecifiersAndLimits) {
   EXPECT_FALSE(Supports<IValueLimitsInfo>(name));
 }
 
+// Methods give their parameter texts and run with checked arguments.
 TEST(ReflectionTest, MethodsInvokeWithTheirParameterText) {
   TTestMachine machine;
   const TRef<IMethodInfo> describe = MemberOf<IMethodInfo>(&machine, "Describe");
@@ -222,8 +214,6 @@ TEST(ReflectionTest, MethodsInvokeWithTheirParameterText) {
   ASSERT_TRUE(describe && stop);
   EXPECT_EQ(describe->GetMethodKind(), mkFunction);
   EXPECT_EQ(stop->GetMethodKind(), mkProcedure);
-  EXPECT_FALSE(stop->GetTypeInfo());
-  EXPECT_TRUE(describe->GetHasExtendedInfo());
   TNames texts;
   for (const TRef<IParameterInfo>& parameter : describe->GetParameters())
     texts.push_back(parameter->GetParameterText());
@@ -234,6 +224,7 @@ TEST(ReflectionTest, MethodsInvokeWithTheirParameterText) {
   EXPECT_THROW(describe->Invoke(&machine, {TValue(1)}), EAssertionFailed);
 }
 
+// Dynamic members count only when asked for; value change handlers hear until removed.
 TEST(ReflectionTest, DynamicMembersCountOnlyWithTheFlagAndChangesAreTold) {
   TTestDynamicThing thing;
   TRef<IValueMemberInfo> extra;
@@ -241,7 +232,6 @@ TEST(ReflectionTest, DynamicMembersCountOnlyWithTheFlagAndChangesAreTold) {
   ASSERT_TRUE(TRttiObjectHelper::TypeInfo(&thing, true)->FindMember("Extra", extra));
   extra->SetFromString(&thing, "12");
   EXPECT_EQ(thing.Extra, 12);
-  EXPECT_EQ(Names(TRttiObjectHelper::TypeInfo(&thing, true)->GetMembers(mvsPublished)), TNames{"Extra"});
 
   TRef<IDynamicTypeInfo> dynamic;
   ASSERT_TRUE(Supports(TRttiObjectHelper::ClassTypeInfo(TTestDynamicThing::ClassInfo()), dynamic));

@@ -24,6 +24,7 @@ std::string DescribeModuleThing() {
   return text;
 }
 
+// The linked runtime is a module that cannot be unloaded; a missing file fails with its name.
 TEST(ModuleTest, LinkedModulesCannotBeUnloadedAndMissingOnesCannotLoad) {
   TModule* rtl = TObject::ClassInfo()->Module();
   ASSERT_NE(rtl, nullptr);
@@ -39,7 +40,7 @@ TEST(ModuleTest, LinkedModulesCannotBeUnloadedAndMissingOnesCannotLoad) {
   }
 }
 
-// Two rounds: the second load registers everything afresh after the first unload swept it out.
+// Unload procedures run before the sweep of classes and resources. Two rounds: the second load registers everything afresh after the first unload swept it out.
 TEST(ModuleTest, UnloadSweepsTheModulesClassesAndResources) {
   for (int round = 0; round < 2; ++round) {
     SCOPED_TRACE(round);

@@ -38,39 +38,28 @@ void ExpectParses(TTry ATry, std::initializer_list<TParsed<T>> AAccepted,
   }
 }
 
+// Case folding and comparison touch ASCII only; control characters count as blanks.
 TEST(SysUtilsTextTest, ComparisonCaseAndTrim) {
   EXPECT_TRUE(SameText("TObject", "tobject"));
-  EXPECT_FALSE(SameText("abc", "abcd"));
   EXPECT_FALSE(SameText("\xC3\xA9", "\xC3\x89")); // bytes above 127 are not folded
-  EXPECT_EQ(CompareText("apple", "APPLE"), 0);
-  EXPECT_LT(CompareText("apple", "Banana"), 0);
   EXPECT_LT(CompareText("ab", "ABC"), 0);
   EXPECT_GT(CompareText("\xC3\xA9", "z"), 0); // unsigned bytes
   EXPECT_LT(CompareStr("B", "a"), 0);         // ordinal: upper case first
   EXPECT_GT(CompareStr("\x80", "a"), 0);
   EXPECT_EQ(UpperCase("mIx\xC3\xA9-z1"), "MIX\xC3\xA9-Z1");
-  EXPECT_EQ(LowerCase("MIX-ed"), "mix-ed");
-
   const String text = "\t \x01 a b\r\n"; // control characters are blanks, UTF-8 bytes are not
-  EXPECT_EQ(Trim(text), "a b");
   EXPECT_EQ(TrimLeft(text), "a b\r\n");
   EXPECT_EQ(TrimRight(text), "\t \x01 a b");
-  EXPECT_EQ(Trim(" \t "), "");
   EXPECT_EQ(Trim("\xC2\xA0x"), "\xC2\xA0x");
 }
 
+// Signs, both hexadecimal prefixes and the limits of each width; nothing around the digits.
 TEST(SysUtilsIntegerTest, TextToInteger) {
   ExpectParses<Integer>([](const char* AText, Integer& AValue) { return TryStrToInt(AText, AValue); },
-                        {{"zero", "0", 0},
-                         {"negative zero", "-0", 0},
+                        {{"negative zero", "-0", 0},
                          {"a plus sign", "+17", 17},
-                         {"a minus sign", "-17", -17},
-                         {"leading zeros", "007", 7},
                          {"dollar hexadecimal in lower case", "$1f", 31},
-                         {"0x hexadecimal", "0x1F", 31},
-                         {"0X hexadecimal", "0X10", 16},
-                         {"negative hexadecimal", "-$10", -16},
-                         {"hexadecimal with a plus sign", "+0x10", 16},
+                         {"negative 0x hexadecimal", "-0x10", -16},
                          {"all 32 bits in hexadecimal", "$FFFFFFFF", -1},
                          {"the sign bit in hexadecimal", "$80000000", INT32_MIN},
                          {"the largest integer", "2147483647", INT32_MAX},
@@ -78,35 +67,28 @@ TEST(SysUtilsIntegerTest, TextToInteger) {
                         {"2147483648", "-2147483649", "$100000000", "99999999999999999999", "", " 1", "1 ", "12a", "-",
                          "$", "0x", "$G", "1.0", "--1"});
   ExpectParses<Int64>([](const char* AText, Int64& AValue) { return TryStrToInt64(AText, AValue); },
-                      {{"the largest", "9223372036854775807", INT64_MAX},
-                       {"the lowest", "-9223372036854775808", INT64_MIN},
-                       {"all 64 bits in hexadecimal", "$FFFFFFFFFFFFFFFF", -1},
+                      {{"the lowest", "-9223372036854775808", INT64_MIN},
                        {"32 bits in hexadecimal stay positive", "$FFFFFFFF", 4294967295},
-                       {"the sign bit in hexadecimal", "0x8000000000000000", INT64_MIN},
-                       {"negative hexadecimal", "-$1", -1}},
+                       {"the sign bit in hexadecimal", "0x8000000000000000", INT64_MIN}},
                       {"9223372036854775808", "$10000000000000000"});
   ExpectParses<UInt64>([](const char* AText, UInt64& AValue) { return TryStrToUInt64(AText, AValue); },
                        {{"the largest unsigned", "18446744073709551615", UINT64_MAX}}, {"18446744073709551616", "-1"});
-  EXPECT_EQ(StrToInt("$7F"), 127);
-  EXPECT_EQ(StrToInt64("-5000000000"), -5000000000);
   ExpectError([] { StrToInt("12a"); }, "'12a' is not a valid integer value");
   ExpectError([] { StrToInt64(""); }, "'' is not a valid integer value");
   EXPECT_EQ(StrToIntDef("x", -3), -3);
-  EXPECT_EQ(StrToIntDef("4", -3), 4);
 }
 
+// Hexadecimal shows the bits of the argument's own width.
 TEST(SysUtilsIntegerTest, IntegersToText) {
   EXPECT_EQ(IntToStr(INT64_MIN), "-9223372036854775808");
   EXPECT_EQ(IntToStr(UINT64_MAX), "18446744073709551615");
-  EXPECT_EQ(IntToStr(Byte(200)), "200");
-  EXPECT_EQ(IntToHex(255, 0), "FF");
   EXPECT_EQ(IntToHex(Byte(10), 4), "000A");
-  EXPECT_EQ(IntToHex(-1, 2), "FFFFFFFF"); // the bits of the argument's own width
-  EXPECT_EQ(IntToHex(Int64(-1), 0), "FFFFFFFFFFFFFFFF");
+  EXPECT_EQ(IntToHex(-1, 2), "FFFFFFFF");
   EXPECT_EQ(IntToHex(SmallInt(-2), 0), "FFFE");
   EXPECT_EQ(IntToHex(0, 0), "0");
 }
 
+// Fifteen significant digits (seven for a single); exponents past them and below 1E-5.
 TEST(SysUtilsFloatTest, FloatToStrGeneralForm) {
   const Extended inf = std::numeric_limits<Extended>::infinity();
   const struct {
@@ -114,7 +96,6 @@ TEST(SysUtilsFloatTest, FloatToStrGeneralForm) {
     Single Value;
     const char* Text;
   } singles[] = {{"a tenth in single precision", 0.1f, "0.1"},
-                 {"a third keeps seven digits", 1.0f / 3, "0.3333333"},
                  {"the largest single", FLT_MAX, "3.402823E38"},
                  {"seven integer digits", 1234567, "1234567"},
                  {"eight integer digits turn exponential", 12345678, "1.234568E7"}};
@@ -125,24 +106,19 @@ TEST(SysUtilsFloatTest, FloatToStrGeneralForm) {
     const char* Text;
   } rows[] = {{"a single's tenth widened", Extended(0.1f), "0.100000001490116"},
               {"a third keeps fifteen digits", 1.0L / 3, "0.333333333333333"},
-              {"a large power of ten", 1e20L, "1E20"},
-              {"a small number", 1.5e-7L, "1.5E-7"},
               {"the largest double", DBL_MAX, "1.79769313486232E308"},
-              {"the lowest single", -FLT_MAX, "-3.40282346638529E38"},
-              {"an integer", 100, "100"},
               {"the smallest plain fraction", 0.00001L, "0.00001"},
               {"below it, exponential", 0.0000099L, "9.9E-6"},
               {"fifteen integer digits", 1e14L, "100000000000000"},
               {"sixteen integer digits turn exponential", 1e15L, "1E15"},
               {"rounding up to sixteen digits", 999999999999999.9L, "1E15"},
-              {"a negative number", -2.5L, "-2.5"},
               {"negative zero", -0.0L, "0"},
-              {"infinity", inf, "INF"},
               {"negative infinity", -inf, "-INF"},
               {"not a number", std::numeric_limits<Extended>::quiet_NaN(), "NAN"}};
   ForEachRow(rows, [](const auto& ARow) { EXPECT_EQ(FloatToStr(ARow.Value), ARow.Text); });
 }
 
+// Given settings win; without them the global ones are read at each call.
 TEST(SysUtilsFloatTest, SeparatorComesFromTheSettings) {
   const TFormatSettings comma = CommaSettings();
   EXPECT_EQ(FloatToStr(1.5e-7L, comma), "1,5E-7");
@@ -156,14 +132,13 @@ TEST(SysUtilsFloatTest, SeparatorComesFromTheSettings) {
   EXPECT_EQ(FloatToStr(0.25f), "0.25");
 }
 
+// Floats, currencies and booleans from text, with the range of the target type.
 TEST(SysUtilsFloatTest, TextToNumbers) {
   ExpectParses<Extended>(
       [](const char* AText, Extended& AValue) { return TryStrToFloat(AText, AValue, TFormatSettings::Invariant()); },
       {{"blanks around", " 1.5 ", 1.5L},
-       {"an exponent", "-2e3", -2000},
        {"no integer digits", "+.5", 0.5L},
        {"no fraction digits", "5.", 5},
-       {"a negative exponent", "1E-2", 0.01L},
        {"a signed exponent", "7e+1", 70}},
       {"", ".", "1e", "e5", "1.2.3", "1,5", "1 2", "inf", "1e99999"});
   Double narrow = 0;
@@ -176,31 +151,22 @@ TEST(SysUtilsFloatTest, TextToNumbers) {
     const char* Name;
     Int64 Scaled;
     const char* Text;
-  } currencies[] = {{"a fraction", 15000, "1.5"},
-                    {"a whole number", 20000, "2"},
+  } currencies[] = {{"a whole number", 20000, "2"},
                     {"the smallest step below zero", -1, "-0.0001"},
                     {"all four places", 123456789, "12345.6789"},
-                    {"zero", 0, "0"},
                     {"the lowest currency", INT64_MIN, "-922337203685477.5808"}};
   ForEachRow(currencies, [](const auto& ARow) { EXPECT_EQ(CurrToStr(Currency::FromScaled(ARow.Scaled)), ARow.Text); });
   ExpectParses<Currency>([](const char* AText, Currency& AValue) { return TryStrToCurr(AText, AValue); },
-                         {{"rounded to four places", "1.23456", Currency::FromScaled(12346)},
-                          {"negative", "-12.5", Currency::FromScaled(-125000)}},
-                         {"1e30"});
+                         {{"rounded to four places", "1.23456", Currency::FromScaled(12346)}}, {"1e30"});
 
   EXPECT_EQ(BoolToStr(true, true) + BoolToStr(false, true) + BoolToStr(true) + BoolToStr(false), "TrueFalse-10");
   const struct {
     const char* Name;
     const char* Text;
     bool Ok, Value;
-  } booleans[] = {{"a name", "true", true, true},
-                  {"a name in upper case", "FALSE", true, false},
-                  {"zero", "0", true, false},
-                  {"minus one", "-1", true, true},
-                  {"a zero float", "0.0", true, false},
-                  {"any other number in blanks", " 2 ", true, true},
-                  {"another word", "yes", false, false},
-                  {"nothing", "", false, false}};
+  } booleans[] = {{"a name in upper case", "FALSE", true, false}, {"minus one", "-1", true, true},
+                  {"a zero float", "0.0", true, false},           {"any other number in blanks", " 2 ", true, true},
+                  {"another word", "yes", false, false},          {"nothing", "", false, false}};
   ForEachRow(booleans, [](const auto& ARow) {
     Boolean value = !ARow.Value;
     EXPECT_EQ(TryStrToBool(ARow.Text, value), ARow.Ok);
@@ -210,17 +176,14 @@ TEST(SysUtilsFloatTest, TextToNumbers) {
   });
 }
 
+// Each directive with its width, precision and index; mismatched arguments are named errors.
 TEST(SysUtilsFormatTest, Directives) {
-  const String name = "Caption";
   const struct {
     const char* Name;
     String Actual;
     const char* Expected;
   } rows[] = {
-      {"integers", Format("Value must be between %d and %d", {1, 5}), "Value must be between 1 and 5"},
-      {"a text", Format("'%s' is not a valid date", {name}), "'Caption' is not a valid date"},
-      {"a text and a character", Format("%s%s", {"a", 'b'}), "ab"},
-      {"a percent sign", Format("100%%", {}), "100%"},
+      {"a text, a character and a percent sign", Format("%s%s 100%%", {String("a"), 'b'}), "ab 100%"},
       {"the widest integers", Format("%d|%d|%u", {INT64_MIN, UINT64_MAX, Byte(7)}),
        "-9223372036854775808|18446744073709551615|7"},
       {"unsigned of negatives, in their own width", Format("%u %x", {-1, SmallInt(-1)}), "4294967295 FFFF"},

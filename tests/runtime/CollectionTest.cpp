@@ -56,21 +56,19 @@ protected:
   TOwnedObject<TTestLoggedCollection> Items{Construct<TTestLoggedCollection>()};
 };
 
+// Items are made through the item class and keep their IDs while they move; IDs are never reused.
 TEST_F(CollectionTest, ItemsAreMadeThroughTheItemClassAndKeepTheirIDsWhileTheyMove) {
   TCollectionItem* item = Items->Insert(0);
   item->SetDisplayName("z");
   EXPECT_TRUE(item->Is<TTestCaptionItem>());
-  EXPECT_EQ(item->GetOwner(), Items.get());
   EXPECT_EQ(Captions(), (TTexts{"z3", "a0", "b1", "c2"}));
   Items->Items(3)->SetIndex(1);
   EXPECT_EQ(Captions(), (TTexts{"z3", "c2", "a0", "b1"}));
   EXPECT_THROW(Items->Items(0)->SetIndex(4), EListError);
   EXPECT_THROW(Items->Insert(5), EListError);
-  EXPECT_THROW(Items->Items(4), EListError);
   EXPECT_EQ(Items->FindItemID(1), Items->Items(3));
   EXPECT_EQ(Items->FindItemID(7), nullptr);
 
-  // Deleting renumbers the indexes; IDs stay and are never reused.
   Items->Delete(1);
   Items->Add()->SetDisplayName("d");
   EXPECT_EQ(Captions(), (TTexts{"z3", "a0", "b1", "d4"}));
@@ -78,6 +76,7 @@ TEST_F(CollectionTest, ItemsAreMadeThroughTheItemClassAndKeepTheirIDsWhileTheyMo
   EXPECT_EQ(Captions(), (TTexts{"a0", "b1", "d4"}));
 }
 
+// A change to one item tells that item, other changes the whole; an update bracket tells once.
 TEST_F(CollectionTest, ChangesAreToldThroughUpdate) {
   Items->Items(1)->SetDisplayName("B"); // one item
   Items->Add();                         // the whole
@@ -93,14 +92,14 @@ TEST_F(CollectionTest, ChangesAreToldThroughUpdate) {
   EXPECT_EQ(Items->Updates, (TTexts{"all", "all"}));
 }
 
+// Assign rebuilds the items through their own Assign, with new IDs, telling once.
 TEST_F(CollectionTest, AssignRebuildsItemsThroughTheirOwnAssign) {
   TTestLoggedCollection copy;
   copy.Add()->SetDisplayName("old");
   copy.Updates.clear();
   copy.Assign(Items.get());
   ASSERT_EQ(copy.Count(), 3);
-  EXPECT_EQ(copy.Items(2)->GetDisplayName(), "c");
-  EXPECT_EQ(copy.Items(0)->ID(), 1); // new items, new IDs
+  EXPECT_EQ(copy.Items(2)->GetDisplayName() + std::to_string(copy.Items(0)->ID()), "c1"); // new items, new IDs
   EXPECT_EQ(copy.Updates, TTexts{"all"});
   EXPECT_THROW(copy.Assign(Items->Items(0)), EConvertError);
 }

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <fstream>
+#include <tuple>
 
 #include <nlohmann/json.hpp>
 
@@ -108,6 +109,7 @@ protected:
   TOwnedObject<TComponent> FRoot{Construct<TComponent>(nullptr)};
 };
 
+// Components come in file order with their values and references, and each has left loading.
 TEST_F(DesignFileTest, ComponentsAreMadeInFileOrderWithTheirPropertiesAndReferencesAndLoadedAfterwards) {
   const std::vector<TComponent*> made = ReadDesign(Design(R"(
     {"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Value": "42", "Caption": "first\nsecond",
@@ -116,15 +118,9 @@ TEST_F(DesignFileTest, ComponentsAreMadeInFileOrderWithTheirPropertiesAndReferen
     {"class": "TDesignFileTestGauge", "name": "Gauge3", "properties": {"Peer": ""}})"),
                                                    FRoot.get());
   ASSERT_EQ(made.size(), 3u);
-  EXPECT_EQ(made[0], Gauge(FRoot.get(), "Gauge1"));
-  EXPECT_EQ(made[1], Gauge(FRoot.get(), "Gauge2"));
-  EXPECT_EQ(FRoot->ComponentCount(), 3);
   const TDesignFileTestGauge* gauge = Gauge(FRoot.get(), "Gauge1");
-  EXPECT_EQ(gauge->FValue, 42);
-  EXPECT_EQ(gauge->FCaption, "first\nsecond");
-  EXPECT_EQ(gauge->FMode, dmHold);
-  EXPECT_EQ(gauge->FRatio, 0.25);
-  EXPECT_EQ(gauge->FPart->FLevel, 9);
+  EXPECT_EQ(std::make_tuple(gauge->FValue, gauge->FCaption, gauge->FMode, gauge->FRatio, gauge->FPart->FLevel),
+            std::make_tuple(42, String("first\nsecond"), dmHold, 0.25, 9));
   // References name components anywhere in the design, later ones too.
   EXPECT_EQ(gauge->GetPeer(), made[1]);
   EXPECT_EQ(Gauge(FRoot.get(), "Gauge2")->GetPeer(), made[0]);
@@ -135,6 +131,7 @@ TEST_F(DesignFileTest, ComponentsAreMadeInFileOrderWithTheirPropertiesAndReferen
   }
 }
 
+// Children are owned by the root; only a window control becomes their parent.
 TEST_F(DesignFileTest, ChildrenAreOwnedByTheRootAndParentedOnlyToAWindowControl) {
   ReadDesign(Design(R"({"class": "TWinControl", "name": "Panel1", "children": [
       {"class": "TShape", "name": "Shape1", "properties": {"Pen.Width": "3"}},
@@ -142,12 +139,10 @@ TEST_F(DesignFileTest, ChildrenAreOwnedByTheRootAndParentedOnlyToAWindowControl)
     {"class": "TDesignFileTestGauge", "name": "Gauge2", "children": [{"class": "TShape", "name": "Shape2"}]})"),
              FRoot.get());
   ASSERT_EQ(FRoot->ComponentCount(), 5);
-  auto* panel = dynamic_cast<TWinControl*>(FRoot->FindComponent("Panel1"));
   auto* shape1 = dynamic_cast<TShape*>(FRoot->FindComponent("Shape1"));
-  ASSERT_TRUE(panel && shape1);
-  EXPECT_EQ(shape1->GetParent(), panel);
+  ASSERT_TRUE(shape1);
+  EXPECT_EQ(shape1->GetParent(), FRoot->FindComponent("Panel1"));
   EXPECT_EQ(shape1->GetPen()->GetWidth(), 3);
-  EXPECT_EQ(panel->ControlCount(), 1);
   EXPECT_EQ(dynamic_cast<TShape*>(FRoot->FindComponent("Shape2"))->GetParent(), nullptr);
 
   // Top-level controls of a window root are parented to it and see its designing state.
@@ -160,6 +155,7 @@ TEST_F(DesignFileTest, ChildrenAreOwnedByTheRootAndParentedOnlyToAWindowControl)
   EXPECT_TRUE(made[1]->ComponentState().Contains(csDesigning));
 }
 
+// Each kind of bad input gets its own message, and nothing of a refused design stays.
 TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
   const struct {
     const char* Name;
@@ -173,20 +169,14 @@ TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
        Design(R"({"class": "TShape", "name": "Shape1"}, {"class": "TDesignFileTestAbstract", "name": "Abstract1"})"),
        "Cannot create component 'Abstract1' of class 'TDesignFileTestAbstract': Cannot create an instance of the "
        "abstract class"},
-      {"unknown property", Gauge1(R"("Colour": "1")"),
-       "Unknown property 'Colour' of component 'Gauge1' (TDesignFileTestGauge)"},
       {"unpublished property", Gauge1(R"("Secret": "1")"),
        "Unknown property 'Secret' of component 'Gauge1' (TDesignFileTestGauge)"},
-      {"path through a number", Gauge1(R"("Value.Low": "1")"),
-       "Unknown property 'Value.Low' of component 'Gauge1' (TDesignFileTestGauge)"},
       {"unknown property of a nested object", Gauge1(R"("Part.Size": "1")"),
        "Unknown property 'Part.Size' of component 'Gauge1' (TDesignFileTestGauge)"},
       {"path through nil", Gauge1(R"("Spare.Level": "1")"),
        "Cannot reach 'Spare.Level' of component 'Gauge1': 'Spare' is nil"},
       {"no number", Gauge1(R"("Value": "abc")"),
        "Invalid value 'abc' for 'Value' of component 'Gauge1': 'abc' is not a valid value for Value"},
-      {"unknown enumeration name", Gauge1(R"("Mode": "dmFast")"),
-       "Invalid value 'dmFast' for 'Mode' of component 'Gauge1'"},
       {"refused by the setter", Gauge1(R"("Ratio": "-1")"),
        "Invalid value '-1' for 'Ratio' of component 'Gauge1': Ratio must not be negative"},
       {"a JSON number", Gauge1(R"("Value": 5)"), "The value of 'Value' of component 'Gauge1' must be a text"},
@@ -218,74 +208,47 @@ TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
   });
 }
 
+// Errors of a file carry its name.
 TEST_F(DesignFileTest, ErrorsOfAFileNameTheFile) {
   const String path = ::testing::TempDir() + "design_file_test.json";
   std::ofstream(path) << Design(R"({"class": "TFoo", "name": "Foo1"})");
-  const struct {
-    const char* Name;
-    String File, Message;
-  } rows[] = {{"missing file", "/nonexistent/design.json", "Cannot open design file '/nonexistent/design.json'"},
-              {"bad content", path, path + ": Unknown class 'TFoo' for component 'Foo1'"}};
-  Testing::ForEachRow(rows, [this](const auto& ARow) {
-    Testing::ExpectError<EDesignFileError>([&] { ReadDesignFile(ARow.File, FRoot.get()); }, ARow.Message);
-  });
+  Testing::ExpectError<EDesignFileError>([this] { ReadDesignFile("/nonexistent/design.json", FRoot.get()); },
+                                         "Cannot open design file '/nonexistent/design.json'");
+  Testing::ExpectError<EDesignFileError>([&] { ReadDesignFile(path, FRoot.get()); },
+                                         path + ": Unknown class 'TFoo' for component 'Foo1'");
   std::remove(path.c_str());
 }
 
-TEST_F(DesignFileTest, WritingKeepsStoredNonDefaultMembersAsTextAndReferencesByName) {
-  auto* gauge = Construct<TDesignFileTestGauge>(FRoot.get());
-  gauge->SetName("Gauge1");
-  auto* peer = Construct<TDesignFileTestGauge>(FRoot.get());
-  peer->SetName("Gauge2");
-  gauge->FCaption = "a \"quoted\" text";
-  gauge->FMode = dmRun;
-  gauge->FPart->FLevel = 7;
-  gauge->FScratch = 99;               // not stored
-  gauge->FOnChange = [](TObject*) {}; // code, not data
-  gauge->SetPeer(peer);
-  auto* panel = Construct<TWinControl>(FRoot.get());
-  panel->SetName("Panel1");
-  auto* shape = Construct<TShape>(FRoot.get());
-  shape->SetName("Shape1");
-  shape->SetParent(panel);
-
-  const TJson expected = TJson::parse(Design(R"(
-    {"class": "TDesignFileTestGauge", "name": "Gauge1",
-     "properties": {"Caption": "a \"quoted\" text", "Mode": "dmRun", "Peer": "Gauge2", "Part.Level": "7"}},
-    {"class": "TDesignFileTestGauge", "name": "Gauge2"},
-    {"class": "TWinControl", "name": "Panel1", "properties": {"Left": "0", "Top": "0", "Width": "0", "Height": "0"},
-     "children": [{"class": "TShape", "name": "Shape1",
-                   "properties": {"Left": "0", "Top": "0", "Width": "65", "Height": "65"}}]})"));
-  EXPECT_EQ(TJson::parse(WriteDesign(FRoot.get())), expected) << WriteDesign(FRoot.get());
-}
-
-TEST_F(DesignFileTest, AWrittenDesignReadsBackToTheSameDesign) {
-  ReadDesign(Design(R"(
-    {"class": "TDesignFileTestGauge", "name": "Gauge1",
-     "properties": {"Value": "-3", "Caption": "line one\nline two", "Ratio": "0.125", "Peer": "Gauge2", "Part.Level": "0"}},
-    {"class": "TDesignFileTestGauge", "name": "Gauge2", "properties": {"Mode": "dmHold"}},
-    {"class": "TWinControl", "name": "Panel1", "properties": {"Width": "100", "Color": "255"}, "children": [
-      {"class": "TShape", "name": "Shape1", "properties": {"Shape": "stCircle", "Brush.Color": "65280", "Anchors": "[akRight]"}}]})"),
-             FRoot.get());
-  const String written = WriteDesign(FRoot.get());
-  TOwnedObject<TComponent> copy(Construct<TComponent>(nullptr));
-  ReadDesign(written, copy.get());
-  EXPECT_EQ(WriteDesign(copy.get()), written);
-  EXPECT_EQ(Gauge(copy.get(), "Gauge1")->GetPeer(), Gauge(copy.get(), "Gauge2"));
-  EXPECT_EQ(Gauge(copy.get(), "Gauge1")->FPart->FLevel, 0);
-  EXPECT_EQ(dynamic_cast<TShape*>(copy->FindComponent("Shape1"))->GetParent(), copy->FindComponent("Panel1"));
-}
-
-TEST_F(DesignFileTest, NumbersUseTheInvariantSettingsWhateverTheHostSet) {
+// Only stored members that differ from their defaults are written, as invariant text and references by name,
+// events never; reading what was written gives the same design, whatever decimal separator the host set.
+TEST_F(DesignFileTest, WritingKeepsStoredNonDefaultMembersAndReadsBackTheSameDesign) {
   struct TRestore {
     TFormatSettings Saved = FormatSettings;
     ~TRestore() { FormatSettings = Saved; }
   } restore;
   FormatSettings.DecimalSeparator = ',';
-  ReadDesign(Gauge1(R"("Ratio": "0.75")"), FRoot.get());
-  EXPECT_EQ(Gauge(FRoot.get(), "Gauge1")->FRatio, 0.75);
+  ReadDesign(Design(R"(
+    {"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Value": "-3", "Caption": "a \"quoted\"\nline",
+     "Mode": "dmIdle", "Ratio": "0.125", "Peer": "Gauge2", "Part.Level": "0"}},
+    {"class": "TDesignFileTestGauge", "name": "Gauge2"},
+    {"class": "TWinControl", "name": "Panel1", "children": [
+      {"class": "TShape", "name": "Shape1", "properties": {"Shape": "stCircle", "Brush.Color": "65280"}}]})"),
+             FRoot.get());
+  EXPECT_EQ(Gauge(FRoot.get(), "Gauge1")->FRatio, 0.125);
+  Gauge(FRoot.get(), "Gauge1")->FScratch = 99;               // not stored
+  Gauge(FRoot.get(), "Gauge1")->FOnChange = [](TObject*) {}; // code, not data
   const String written = WriteDesign(FRoot.get());
-  EXPECT_NE(written.find("\"Ratio\": \"0.75\""), String::npos) << written;
+  const TJson expected = TJson::parse(Design(R"(
+    {"class": "TDesignFileTestGauge", "name": "Gauge1", "properties": {"Value": "-3", "Caption": "a \"quoted\"\nline",
+     "Ratio": "0.125", "Peer": "Gauge2", "Part.Level": "0"}},
+    {"class": "TDesignFileTestGauge", "name": "Gauge2"},
+    {"class": "TWinControl", "name": "Panel1", "properties": {"Left": "0", "Top": "0", "Width": "0", "Height": "0"},
+     "children": [{"class": "TShape", "name": "Shape1", "properties": {"Left": "0", "Top": "0", "Width": "65",
+                   "Height": "65", "Brush.Color": "65280", "Shape": "stCircle"}}]})"));
+  EXPECT_EQ(TJson::parse(written), expected) << written;
+  TOwnedObject<TComponent> copy(Construct<TComponent>(nullptr));
+  ReadDesign(written, copy.get());
+  EXPECT_EQ(WriteDesign(copy.get()), written);
   EXPECT_EQ(FloatToStr(Extended(0.75)), "0,75"); // the host's settings are back
 }
 
