@@ -13,7 +13,6 @@
 #include "runtime/DesignFile.h"
 #include "runtime/Graphics.h"
 #include "tests/rtl/ExpectError.h"
-#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 
@@ -115,28 +114,6 @@ TEST_F(RowModelTest, SeveralObjectsShareTheRowsTheyAllHaveAndShowOneTextWhenThey
   EXPECT_TRUE(HasRow("Name"));
   EXPECT_FALSE(HasRow("Frequency"));
   EXPECT_FALSE(HasRow("Cutoff"));
-}
-
-// The host tells dropped text by the missing modification notice: a write sends one, also of
-// the value the row has; dropped text sends none and leaves the value as it was.
-TEST_F(RowModelTest, EveryWriteSendsOneModifiedNoticeAndDroppedTextNone) {
-  const struct {
-    const char* Name;
-    const char* Path;
-    const char* Text;
-    Integer Notices;
-    const char* ValueAfter;
-  } writes[] = {{"text the converter refuses", "Frequency", "abc", 0, "440"},
-                {"the value the row has", "Frequency", "440", 1, "440"},
-                {"a number beyond the type", "SampleRate", "5000000000", 0, "48000"}};
-  Select({"Generator1"});
-  Testing::ForEachRow(writes, [&](const auto& write) {
-    const Integer before = FDesigner->ModifiedCount();
-    FInspector.SetValue(write.Path, write.Text);
-    FInspector.Refresh();
-    EXPECT_EQ(FDesigner->ModifiedCount() - before, write.Notices);
-    EXPECT_EQ(FInspector.Find(write.Path).Value, write.ValueAfter);
-  });
 }
 
 TEST_F(RowModelTest, BadPathsAndReadOnlyRowsAreRefusedByName) {

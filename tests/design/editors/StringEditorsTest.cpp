@@ -4,6 +4,7 @@
 #include <QPlainTextEdit>
 #include <QTemporaryFile>
 
+#include "design/editors/CharEditors.h"
 #include "design/editors/FileNameEditor.h"
 #include "design/editors/OrdinalEditors.h"
 #include "forms/AdvancedStringsEditorForm.h"
@@ -19,39 +20,80 @@ using namespace Testing;
 
 using StringEditorsTest = TypedEditorTest<TStringPropertyEditor>;
 
-// Trimmed, separators made underscores, then checked: first character, then every character.
-TEST_F(StringEditorsTest, TheIdentifierRule) {
+// A typed text is written to both selected objects as the row then shows it, or refused with its
+// message before anything is written or the designer is told.
+TEST_F(StringEditorsTest, TypedTexts) {
   struct TRow {
     const char* Name;
-    String Text;
-    String Written; // empty: refused
+    TRef<TSinglePropertyEditor> Editor;
+    String Text, Shown, Refusal = {}; // no refusal: the text is taken
   };
+  const TRef<TSinglePropertyEditor> narrow = Editor<TAnsiCharPropertyEditor>("Narrow"),
+                                    wide = Editor<TWideCharPropertyEditor>("Wide"), ident = Editor("Ident"),
+                                    name = Editor<TNamePropertyEditor>("Notes");
+  const String invalid = "Invalid property value", noName = "Component Name can't be empty";
   const TRow rows[] = {
-      {"blanks around go", "  gain stage\t", "gain_stage"},
-      {"hyphen and tab inside", "a-b\tc", "a_b_c"},
-      {"leading digit", "9lives", ""},
-      {"leading digit behind an underscore", "_9lives", "_9lives"},
-      {"full stop inside", "a.b", ""},
-      {"letters beyond ASCII", "Größe", "Größe"},
+      {"character code after #", narrow, "#65", "A"},
+      {"character code after $", narrow, "$41", "A"},
+      {"character code after 0x", narrow, "0x41", "A"},
+      {"character code after 0X", wide, "0X41", "'A'"},
+      {"a lone digit is itself", narrow, "7", "7"},
+      {"a lone # is itself", narrow, "#", "#"},
+      {"a letter beyond ASCII", narrow, "é", "#233"},
+      {"empty text is code 0", wide, "", "#0"},
+      {"a letter beyond a byte", wide, "Ω", "#937"},
+      {"a code without its prefix", narrow, "65", "", invalid},
+      {"a code with a bad digit", narrow, "#x1", "", invalid},
+      {"a code beyond a byte", narrow, "#300", "", "Value must be between 0 and 255"},
+      {"a code beyond a wide character", wide, "#65536", "", "Value must be between 0 and 65535"},
+      // The identifier rule: trimmed, separators made underscores, then the first character and the rest.
+      {"identifier: blanks around go", ident, "  gain stage\t", "gain_stage"},
+      {"identifier: hyphen and tab inside", ident, "a-b\tc", "a_b_c"},
+      {"identifier: leading digit", ident, "9lives", "", noName},
+      {"identifier: digit behind an underscore", ident, "_9lives", "_9lives"},
+      {"identifier: full stop inside", ident, "a.b", "", noName},
+      {"identifier: letters beyond ASCII", ident, "Größe", "Größe"},
+      {"any text without the identifier attribute", Editor("Notes"), "a.b c", "a.b c"},
+      {"a name keeps its blanks", name, "  Stage 1 ", "  Stage 1 "},
+      {"a name of blanks", name, " \t", "", noName},
+      {"an integer beyond a suppressed range is clamped", Editor<TIntegerPropertyEditor>("Offset"), "-500", "-100"},
   };
   ForEachRow(rows, [this](const TRow& ARow) {
-    FFirst.FIdent = FSecond.FIdent = "start";
+    const String before = ARow.Editor->GetDisplayValue(nullptr);
     FLog.clear();
-    if (ARow.Written.empty()) {
-      ExpectError<EDesignPropertyError>([&] { Editor("Ident")->SetStringValue(ARow.Text); },
-                                        "Component Name can't be empty");
-      EXPECT_EQ(FFirst.FIdent, "start");
-      EXPECT_TRUE(FLog.empty());
+    if (ARow.Refusal.empty()) {
+      ARow.Editor->SetStringValue(ARow.Text);
+      EXPECT_EQ(ARow.Editor->GetDisplayValue(nullptr), ARow.Shown); // one text: both objects hold it
     } else {
-      Editor("Ident")->SetStringValue(ARow.Text);
-      EXPECT_EQ(FFirst.FIdent, ARow.Written);
-      EXPECT_EQ(FSecond.FIdent, ARow.Written);
+      ExpectError<EDesignPropertyError>([&] { ARow.Editor->SetStringValue(ARow.Text); }, ARow.Refusal);
+      EXPECT_EQ(ARow.Editor->GetDisplayValue(nullptr), before);
+      EXPECT_TRUE(FLog.empty());
     }
   });
-  Editor("Notes")->SetStringValue("");
-  EXPECT_EQ(FFirst.FNotes, "") << "without the attribute any text passes";
-  Editor("Notes")->SetStringValue("a.b c");
-  EXPECT_EQ(FFirst.FNotes, "a.b c");
+}
+
+// An 8-bit character shows codes 33 to 127 as themselves; a wide one 32 to 127, quoted in the cell.
+TEST_F(StringEditorsTest, PrintableCodesShowAsThemselves) {
+  struct TRow {
+    const char* Name;
+    Integer Code;
+    String Narrow, Wide, WideDisplay;
+  };
+  const TRow rows[] = {
+      {"control", 9, "#9", "#9", "#9"},     {"blank", 32, "#32", " ", "' '"},
+      {"letter", 65, "A", "A", "'A'"},      {"127", 127, "\x7f", "\x7f", "'\x7f'"},
+      {"128", 128, "#128", "#128", "#128"}, {"beyond a byte", 955, "", "#955", "#955"},
+  };
+  const auto narrow = Editor<TAnsiCharPropertyEditor>("Narrow");
+  const auto wide = Editor<TWideCharPropertyEditor>("Wide");
+  ForEachRow(rows, [&](const TRow& ARow) {
+    FFirst.FWide = FSecond.FWide = WideChar(ARow.Code);
+    EXPECT_EQ(wide->GetStringValues(nullptr)->GetItem(0), ARow.Wide);
+    EXPECT_EQ(wide->GetDisplayValue(nullptr), ARow.WideDisplay);
+    if (ARow.Code > 255) return;
+    FFirst.FNarrow = FSecond.FNarrow = AnsiChar(ARow.Code);
+    EXPECT_EQ(narrow->GetDisplayValue(nullptr), ARow.Narrow);
+  });
 }
 
 TEST_F(StringEditorsTest, DefaultsAndLiveUpdate) {
@@ -64,41 +106,23 @@ TEST_F(StringEditorsTest, DefaultsAndLiveUpdate) {
   EXPECT_FALSE(Editor<TNamePropertyEditor>("Text")->GetAutoUpdate());
 }
 
-TEST_F(StringEditorsTest, ANameIsWrittenWithItsBlanks) {
-  Editor<TNamePropertyEditor>("Notes")->SetStringValue("  Stage 1 ");
-  EXPECT_EQ(FFirst.FNotes, "  Stage 1 ");
-  ExpectError<EDesignPropertyError>([this] { Editor<TNamePropertyEditor>("Notes")->SetStringValue(" \t"); },
-                                    "Component Name can't be empty");
-  EXPECT_EQ(FSecond.FNotes, "  Stage 1 ");
-}
-
 // The dialog shows the first object's lines under the row's name; accepted, it writes every object
 // and tells the designer; cancelled, it changes nothing and tells nobody.
 TEST_F(StringEditorsTest, TheMultiLineDialog) {
   FSecond.FNotes = "other";
-  const auto editor = Editor<TMultiLineStringPropertyEditor>("Notes");
-  const auto answer = [](int ACode) {
-    return [ACode](QDialog& ADialog) {
+  for (const int code : {QDialog::Rejected, QDialog::Accepted}) {
+    TModalHandlerScope answer([&](QDialog& ADialog) {
       auto& form = dynamic_cast<TAdvancedStringsEditorForm&>(ADialog);
       EXPECT_EQ(form.windowTitle(), "Notes");
       EXPECT_EQ(form.Editor->toPlainText(), "one\ntwo");
       form.Editor->setPlainText("three\nfour");
-      return ACode;
-    };
-  };
-  {
-    TModalHandlerScope cancel(answer(QDialog::Rejected));
-    editor->Execute(nullptr);
-  }
-  EXPECT_EQ(FSecond.FNotes, "other");
-  EXPECT_TRUE(FLog.empty());
-  {
-    TModalHandlerScope accept(answer(QDialog::Accepted));
-    editor->Execute(nullptr);
+      return code;
+    });
+    Editor<TMultiLineStringPropertyEditor>("Notes")->Execute(nullptr);
+    EXPECT_EQ(FSecond.FNotes, code == QDialog::Accepted ? "three\nfour\n" : "other");
   }
   EXPECT_EQ(FFirst.FNotes, "three\nfour\n");
-  EXPECT_EQ(FSecond.FNotes, "three\nfour\n");
-  EXPECT_EQ(FLog, (std::vector<String>{"Modified", "Modified"}));
+  EXPECT_EQ(FLog, (std::vector<String>{"Modified", "Modified"})) << "on OK only, once an object";
 }
 
 // An open dialog for existing files under the member's filter; a file chosen on OK is written,
