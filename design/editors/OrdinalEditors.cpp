@@ -2,8 +2,7 @@
 
 #include "design/Registry.h"
 #include "design/editors/EditorFamilies.h"
-#include "design/paint/InplaceFormController.h"
-#include "forms/RangedInplaceForm.h"
+#include "design/editors/SliderEditorImpl.h"
 #include "reflection/RangeAttributes.h"
 #include "reflection/RowAttributes.h"
 
@@ -111,91 +110,8 @@ TValue TRangedOrdinalPropertyEditor::ApplyConstraints(const TValue& AValue) {
 
 // ---- The slider ----
 
-namespace {
-using TNumericFormController = TInplaceEditorFormController<TNumericInplaceForm>;
-} // namespace
-
-template <class TBase> void TNumericSliderEditor<TBase>::InitCreate(TSinglePropertyEditor* AInstance) {
-  TBase::InitCreate(AInstance);
-  const TRef<IMemberInfo> member = this->GetFirstMember();
-  if (member->HasCustomAttribute(PropertyFixedListDesignAttribute::ClassInfo(), true)) return;
-  if (member->GetVisibility() != mvPublished) return;
-  // The controller lives as long as the editor, so the editor may be captured bare.
-  FFormController = New<TNumericFormController>([](const TIGXRect&) { return new TNumericInplaceForm(); },
-                                                [this](TNumericInplaceForm* AForm) { MakeForm(AForm); });
-}
-
-template <class TBase> TNumericSliderEditor<TBase>::~TNumericSliderEditor() {
-  if (!FFormController) return;
-  for (const TInplaceFormInfo<TNumericInplaceForm>& info :
-       QueryAs<IInplaceEditorFormController<TNumericInplaceForm>>(FFormController)->GetForms())
-    if (info.Form) info.Form->OnValueChange = info.Form->OnEditorEnter = info.Form->OnEditorLeave = nullptr;
-}
-
-template <class TBase> void TNumericSliderEditor<TBase>::MakeForm(TNumericInplaceForm* AForm) {
-  AForm->OnValueChange = [this](QWidget* ASender) { FormValueChange(ASender); };
-  AForm->OnEditorEnter = [this](QWidget* ASender) { FormEditorEnter(ASender); };
-  AForm->OnEditorLeave = [this](QWidget* ASender) { FormEditorLeave(ASender); };
-  // The slider runs over the suggested range, taken now and held as the form holds values, so
-  // that a Cardinal's declared maximum, which reads -1, is its 4294967295.
-  AForm->SetLimits(
-      New<TPropertyRange>(InplaceValue(this->GetSuggestedMinValue()), InplaceValue(this->GetSuggestedMaxValue())));
-  if (const TRef<IValueArrayList> values = this->GetInstanceValues(nullptr); values->GetCount() > 0)
-    AForm->SetValue(values->GetItem(0));
-}
-
-template <class TBase> HRESULT TNumericSliderEditor<TBase>::QueryInterface(const TGUID& AIID, void** AObj) {
-  if (AIID == IPropertyEditorInplace::IID && !FFormController) {
-    *AObj = nullptr;
-    return E_NOINTERFACE;
-  }
-  return TImplements<TBase, IPropertyEditorInplace>::QueryInterface(AIID, AObj);
-}
-
-template <class TBase>
-TRef<IInplaceForm>
-TNumericSliderEditor<TBase>::GetInplaceForm(QWidget* AParent, const TRef<IPaintObjects>& APaintObjects,
-                                            const TRef<IMemberUIUpdate>& AUIUpdate, const TIGXRect& ARect) {
-  return FFormController->GetInplaceForm(AParent, APaintObjects, AUIUpdate, ARect);
-}
-
-template <class TBase> void TNumericSliderEditor<TBase>::DropForm(const TRef<IInplaceForm>& AForm) {
-  FFormController->DropForm(AForm);
-}
-
-template <class TBase> void TNumericSliderEditor<TBase>::SetInstanceValues(const TValue& AValue) {
-  TBase::SetInstanceValues(AValue);
-  UpdateInplace();
-}
-
-template <class TBase> void TNumericSliderEditor<TBase>::UpdateInplace() {
-  if (!FFormController) return;
-  const auto controller = QueryAs<IInplaceEditorFormController<TNumericInplaceForm>>(FFormController);
-  for (const TInplaceFormInfo<TNumericInplaceForm>& info : controller->GetForms()) {
-    const TRef<IValueArrayList> values = this->GetInstanceValues(nullptr);
-    if (info.Form && values->GetCount() > 0) info.Form->SetValue(InplaceValue(values->GetItem(0)));
-  }
-}
-
-template <class TBase> void TNumericSliderEditor<TBase>::FormValueChange(QWidget* ASender) {
-  if (!FFormController) return;
-  const auto controller = QueryAs<IInplaceEditorFormController<TNumericInplaceForm>>(FFormController);
-  for (const TInplaceFormInfo<TNumericInplaceForm>& info : controller->GetForms()) {
-    if (info.Form != ASender) continue;
-    SetInstanceValues(info.Form->GetValue());
-    if (info.UIUpdate) {
-      info.UIUpdate->EndEdit();
-      info.UIUpdate->Refresh(true);
-    }
-  }
-}
-
-template <class TBase> void TNumericSliderEditor<TBase>::FormEditorEnter(QWidget*) { this->BeginModify(); }
-
-template <class TBase> void TNumericSliderEditor<TBase>::FormEditorLeave(QWidget*) { this->EndModify(); }
-
-template class TNumericSliderEditor<TRangedOrdinalPropertyEditor>;
-template class TNumericSliderEditor<TBasicIntegerPropertyEditor>;
+template class TNumericSliderEditor<TRangedOrdinalPropertyEditor, TNumericInplaceForm>;
+template class TNumericSliderEditor<TBasicIntegerPropertyEditor, TNumericInplaceForm>;
 
 // ---- Start-up ----
 

@@ -5,12 +5,10 @@
 // editor does it; out-of-range numbers are clamped, never refused.
 
 #include "design/SinglePropertyEditor.h"
-#include "design/paint/InplaceForm.h"
+#include "design/editors/SliderEditor.h"
 #include "design/paint/PropertyRange.h"
 
 namespace Tarvo {
-
-class TNumericInplaceForm;
 
 // Values compared by their text for the default marker.
 class TARVO_API TOrdinalPropertyEditor : public TSinglePropertyEditor {
@@ -47,42 +45,9 @@ public:
   virtual TValue GetDefaultMaxValue() { return TValue(Integer(2147483647)); }
 };
 
-// The slider in place: a numeric form per open row, made for members that are published and have
-// no fixed list. Every move writes all selected objects; a form shows the first object's value.
-// The editor answers IPropertyEditorInplace itself, so that a grid holding it holds the editor
-// its forms report to.
-template <class TBase> class TARVO_API TNumericSliderEditor : public TImplements<TBase, IPropertyEditorInplace> {
-public:
-  using TImplements<TBase, IPropertyEditorInplace>::TImplements;
-  // Forms the grid still shows stop reporting to the editor.
-  ~TNumericSliderEditor() override;
-
-  // Refuses IPropertyEditorInplace where there is no slider.
-  HRESULT QueryInterface(const TGUID& AIID, void** AObj) override;
-  TRef<IInplaceForm> GetInplaceForm(QWidget* AParent, const TRef<IPaintObjects>& APaintObjects,
-                                    const TRef<IMemberUIUpdate>& AUIUpdate, const TIGXRect& ARect) override;
-  void DropForm(const TRef<IInplaceForm>& AForm) override;
-  void SetInstanceValues(const TValue& AValue) override;
-  // Pushes the first selected object's value into every open form.
-  virtual void UpdateInplace();
-
-  void FormValueChange(QWidget* ASender);
-  void FormEditorEnter(QWidget* ASender);
-  void FormEditorLeave(QWidget* ASender);
-
-protected:
-  void InitCreate(TSinglePropertyEditor* AInstance) override;
-  // A value or a limit as a form holds it.
-  virtual TValue InplaceValue(const TValue& AValue) { return TValue(AValue.AsOrdinal()); }
-
-  TRef<IPropertyEditorInplace> FFormController;
-
-private:
-  void MakeForm(TNumericInplaceForm* AForm);
-};
-
-class TARVO_API TCardinalPropertyEditor : public TNumericSliderEditor<TRangedOrdinalPropertyEditor> {
-  TARVO_CLASS(TCardinalPropertyEditor, TNumericSliderEditor<TRangedOrdinalPropertyEditor>)
+class TARVO_API TCardinalPropertyEditor
+    : public TNumericSliderEditor<TRangedOrdinalPropertyEditor, TNumericInplaceForm> {
+  TARVO_CLASS(TCardinalPropertyEditor, TNumericSliderEditor<TRangedOrdinalPropertyEditor, TNumericInplaceForm>)
 public:
   using TNumericSliderEditor::TNumericSliderEditor;
   TValue GetDefaultMinValue() override { return TValue(Integer(0)); }
@@ -100,14 +65,14 @@ public:
   using TRangedOrdinalPropertyEditor::TRangedOrdinalPropertyEditor;
 };
 
-class TARVO_API TIntegerPropertyEditor : public TNumericSliderEditor<TBasicIntegerPropertyEditor> {
-  TARVO_CLASS(TIntegerPropertyEditor, TNumericSliderEditor<TBasicIntegerPropertyEditor>)
+class TARVO_API TIntegerPropertyEditor : public TNumericSliderEditor<TBasicIntegerPropertyEditor, TNumericInplaceForm> {
+  TARVO_CLASS(TIntegerPropertyEditor, TNumericSliderEditor<TBasicIntegerPropertyEditor, TNumericInplaceForm>)
 public:
   using TNumericSliderEditor::TNumericSliderEditor;
 };
 
-class TARVO_API TInt64PropertyEditor : public TNumericSliderEditor<TRangedOrdinalPropertyEditor> {
-  TARVO_CLASS(TInt64PropertyEditor, TNumericSliderEditor<TRangedOrdinalPropertyEditor>)
+class TARVO_API TInt64PropertyEditor : public TNumericSliderEditor<TRangedOrdinalPropertyEditor, TNumericInplaceForm> {
+  TARVO_CLASS(TInt64PropertyEditor, TNumericSliderEditor<TRangedOrdinalPropertyEditor, TNumericInplaceForm>)
 public:
   using TNumericSliderEditor::TNumericSliderEditor;
   TValue GetDefaultMinValue() override { return TValue(Int64(INT64_MIN)); }
@@ -115,7 +80,7 @@ public:
 };
 
 // Compiled once, with the editors.
-extern template class TNumericSliderEditor<TRangedOrdinalPropertyEditor>;
-extern template class TNumericSliderEditor<TBasicIntegerPropertyEditor>;
+extern template class TNumericSliderEditor<TRangedOrdinalPropertyEditor, TNumericInplaceForm>;
+extern template class TNumericSliderEditor<TBasicIntegerPropertyEditor, TNumericInplaceForm>;
 
 } // namespace Tarvo
