@@ -140,12 +140,18 @@ TRef<IArrayList<Boolean>> TSinglePropertyEditor::GetIsDefaults(const TRef<IObjec
 TRef<IArrayList<Boolean>> TSinglePropertyEditor::GetIsDefaultsByText(const TRef<IObjectArrayList>& AObjectsList,
                                                                      String (*AText)(const TValue&)) {
   const String defaultText = AText(GetDefaultValue());
+  return GetIsDefaultsBy(AObjectsList, [&](const TValue& AValue) { return AText(AValue) == defaultText; });
+}
+
+TRef<IArrayList<Boolean>>
+TSinglePropertyEditor::GetIsDefaultsBy(const TRef<IObjectArrayList>& AObjectsList,
+                                       const std::function<Boolean(const TValue&)>& AIsDefault) {
   const TRef<IArrayList<TIsDefaultByStrored>> stored = GetIsDefaultsByStored(AObjectsList);
   const TRef<IValueArrayList> values = GetInstanceValues(AObjectsList);
   const TRef<IArrayList<Boolean>> result = New<TArrayList<Boolean>>();
   for (Integer i = 0; i < values->GetCount(); ++i) {
     if (i < stored->GetCount() && stored->GetItem(i).HasStored) result->Add(stored->GetItem(i).IsDefault);
-    else result->Add(AText(values->GetItem(i)) == defaultText);
+    else result->Add(AIsDefault(values->GetItem(i)));
   }
   return result;
 }

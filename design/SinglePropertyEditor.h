@@ -5,6 +5,8 @@
 // conversions; which objects are touched, in which order, what counts as default and when the
 // view is reset are decided here for the whole grid.
 
+#include <functional>
+
 #include "design/MemberEditor.h"
 
 class QWidget;
@@ -138,6 +140,9 @@ protected:
   // else whether the value's text equals the default's exactly.
   TRef<IArrayList<Boolean>> GetIsDefaultsByText(const TRef<IObjectArrayList>& AObjectsList,
                                                 String (*AText)(const TValue&));
+  // The same with any test of a value against the default.
+  TRef<IArrayList<Boolean>> GetIsDefaultsBy(const TRef<IObjectArrayList>& AObjectsList,
+                                            const std::function<Boolean(const TValue&)>& AIsDefault);
 
   TRef<IArrayList<TRef<IRefreshMemberNotify>>> FRefreshNotifyList;
 

@@ -14,6 +14,9 @@ void RegisterDesignEditors() {
   RegisterCharEditors();
   RegisterStringEditors();
   RegisterFileNameEditors();
+  RegisterFloatEditors();
+  RegisterDateTimeEditors();
+  RegisterVariantEditors();
 }
 
 } // namespace Tarvo

@@ -20,5 +20,11 @@ void RegisterCharEditors();
 void RegisterStringEditors();
 // File names picked in an open dialog.
 void RegisterFileNameEditors();
+// Real numbers of every float type.
+void RegisterFloatEditors();
+// Dates, times and both, registered by type.
+void RegisterDateTimeEditors();
+// Variants and their "Type" rows.
+void RegisterVariantEditors();
 
 } // namespace Tarvo

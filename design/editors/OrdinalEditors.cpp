@@ -1,6 +1,7 @@
 #include "design/editors/OrdinalEditors.h"
 
 #include "design/Registry.h"
+#include "design/editors/AttributeRange.h"
 #include "design/editors/EditorFamilies.h"
 #include "design/editors/SliderEditorImpl.h"
 #include "reflection/RangeAttributes.h"
@@ -35,11 +36,6 @@ PTypeInfo IntegerType(const TRef<IMemberInfo>& AMember) {
   return type && type->GetTypeKind() == tkInteger ? type->GetHandle() : nullptr;
 }
 
-template <class A> bool AttributeValue(const TRef<IMemberInfo>& AMember, TValue (*ARead)(const A&), TValue& AResult) {
-  if (const A* attribute = FindMemberAttribute<A>(AMember)) return AResult = ARead(*attribute), true;
-  return false;
-}
-
 // AValue kept between AMin and AMax, the maximum applied first.
 template <class T> T Clamp(T AValue, T AMin, T AMax) {
   if (AValue > AMax) AValue = AMax;
@@ -72,32 +68,14 @@ TValue TRangedOrdinalPropertyEditor::GetMaxValue() {
 TValue TRangedOrdinalPropertyEditor::GetSuggestedMinValue() {
   const TRef<IMemberInfo> member = GetFirstMember();
   TValue result;
-  if (AttributeValue<DesignMinAttribute>(
-          member, [](const auto& A) { return A.Value(); }, result) ||
-      AttributeValue<DesignRangeAttribute>(
-          member, [](const auto& A) { return A.MinValue(); }, result) ||
-      AttributeValue<MinValueAttribute>(
-          member, [](const auto& A) { return A.Value(); }, result) ||
-      AttributeValue<ValueRangeAttribute>(
-          member, [](const auto& A) { return A.MinValue(); }, result))
-    return result;
+  if (AttributeMinValue(member, result)) return result;
   if (const PTypeInfo type = IntegerType(member)) return TValue(type->MinValue);
   return GetMinValue();
 }
 
 TValue TRangedOrdinalPropertyEditor::GetSuggestedMaxValue() {
-  const TRef<IMemberInfo> member = GetFirstMember();
   TValue result;
-  if (AttributeValue<DesignMaxAttribute>(
-          member, [](const auto& A) { return A.Value(); }, result) ||
-      AttributeValue<DesignRangeAttribute>(
-          member, [](const auto& A) { return A.MaxValue(); }, result) ||
-      AttributeValue<MaxValueAttribute>(
-          member, [](const auto& A) { return A.Value(); }, result) ||
-      AttributeValue<ValueRangeAttribute>(
-          member, [](const auto& A) { return A.MaxValue(); }, result))
-    return result;
-  return GetMaxValue();
+  return AttributeMaxValue(GetFirstMember(), result) ? result : GetMaxValue();
 }
 
 TValue TRangedOrdinalPropertyEditor::ApplyConstraints(const TValue& AValue) {

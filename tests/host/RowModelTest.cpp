@@ -84,7 +84,7 @@ TEST_F(RowModelTest, RowsAreTheMembersThePackageGivesAVisibleEditorSortedByName)
 
   const TInspectorRow& phase = FInspector.Find("phase");
   EXPECT_EQ(phase.DisplayName, "Phase (degrees)");
-  EXPECT_EQ(phase.EditorName, "TSinglePropertyEditor");
+  EXPECT_EQ(phase.EditorName, "TFloatPropertyEditor");
   EXPECT_TRUE(phase.IsDefault);
   EXPECT_FALSE(phase.ReadOnly);
   EXPECT_EQ(FInspector.Find("OnStart").EditorName, "TEventPropertyEditor");
