@@ -173,8 +173,8 @@ TSinglePropertyEditor::GetIsDefaultsByStored(const TRef<IObjectArrayList>& AObje
 
 TRef<IMemberInfo> TSinglePropertyEditor::GetOwnerFirstMember() {
   const TRef<IMemberInfo> member = GetFirstMember();
-  TRef<ISetValueMemberInfo> element;
-  if (Supports(member, element)) return element->GetOwnerMember();
+  if (TRef<ISetValueMemberInfo> element; Supports(member, element)) return element->GetOwnerMember();
+  if (TRef<INestedValueMemberInfo> nested; Supports(member, nested)) return nested->GetOwnerMember();
   return member;
 }
 

@@ -19,15 +19,21 @@ using TJson = nlohmann::ordered_json;
 [[noreturn]] inline void Fail(const String& AMessage) { throw EDesignFileError(AMessage); }
 
 // A design reads the same on every machine: numbers and dates go through the invariant settings
-// for as long as a file is read or written, whatever the host set.
+// for as long as a file is read or written, whatever the host set. Times keep their milliseconds.
 class TInvariantFormatScope {
 public:
-  TInvariantFormatScope() : FSaved(std::exchange(FormatSettings, TFormatSettings::Invariant())) {}
+  TInvariantFormatScope() : FSaved(std::exchange(FormatSettings, FileSettings())) {}
   ~TInvariantFormatScope() { FormatSettings = FSaved; }
   TInvariantFormatScope(const TInvariantFormatScope&) = delete;
   TInvariantFormatScope& operator=(const TInvariantFormatScope&) = delete;
 
 private:
+  static TFormatSettings FileSettings() {
+    TFormatSettings settings = TFormatSettings::Invariant();
+    settings.LongTimeFormat = "hh:nn:ss.zzz";
+    return settings;
+  }
+
   TFormatSettings FSaved;
 };
 

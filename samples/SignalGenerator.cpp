@@ -43,6 +43,15 @@ TARVO_PUBLISH(TSignalGenerator) {
   Property("NoiseSeed", &TSignalGenerator::GetNoiseSeed, &TSignalGenerator::SetNoiseSeed)
       .Default(1)
       .Attr<HiddenDesignAttribute>();
+  Property("Gain", &TSignalGenerator::GetGain, &TSignalGenerator::SetGain).Default(Single(1));
+  Property("ReferenceLevel", &TSignalGenerator::GetReferenceLevel, &TSignalGenerator::SetReferenceLevel,
+           &TypeInfo_Real)
+      .Default(1.0);
+  Property("CalibrationDate", &TSignalGenerator::GetCalibrationDate, &TSignalGenerator::SetCalibrationDate,
+           &TypeInfo_TDate);
+  Property("StartTime", &TSignalGenerator::GetStartTime, &TSignalGenerator::SetStartTime, &TypeInfo_TTime);
+  Property("LastRun", &TSignalGenerator::GetLastRun, &TSignalGenerator::SetLastRun, &TypeInfo_TDateTime);
+  Property("Parameter", &TSignalGenerator::GetParameter, &TSignalGenerator::SetParameter);
   Property("OnStart", &TSignalGenerator::GetOnStart, &TSignalGenerator::SetOnStart);
   Public();
   Method("Start", &TSignalGenerator::Start);

@@ -3,6 +3,7 @@
 
 #include "runtime/Component.h"
 #include "runtime/Events.h"
+#include "rtl/Variant.h"
 #include "samples/SignalSource.h"
 
 namespace Signals {
@@ -41,6 +42,21 @@ public:
   void SetEnabled(Boolean AValue) { FEnabled = AValue; }
   Integer GetNoiseSeed() const { return FNoiseSeed; }
   void SetNoiseSeed(Integer AValue) { FNoiseSeed = AValue; }
+  Single GetGain() const { return FGain; }
+  void SetGain(Single AValue) { FGain = AValue; }
+  // The level the amplitude is measured against, in volts.
+  Double GetReferenceLevel() const { return FReferenceLevel; }
+  void SetReferenceLevel(Double AValue) { FReferenceLevel = AValue; }
+  TDate GetCalibrationDate() const { return FCalibrationDate; }
+  void SetCalibrationDate(TDate AValue) { FCalibrationDate = AValue; }
+  // The time of day the generator starts on its own.
+  TTime GetStartTime() const { return FStartTime; }
+  void SetStartTime(TTime AValue) { FStartTime = AValue; }
+  TDateTime GetLastRun() const { return FLastRun; }
+  void SetLastRun(TDateTime AValue) { FLastRun = AValue; }
+  // A free parameter of the waveform: a number, a text, or nothing.
+  const Variant& GetParameter() const { return FParameter; }
+  void SetParameter(const Variant& AValue) { FParameter = AValue; }
   const TNotifyEvent& GetOnStart() const { return FOnStart; }
   void SetOnStart(const TNotifyEvent& AValue) { FOnStart = AValue; }
 
@@ -65,6 +81,12 @@ private:
   Int64 FSampleCount = 0;
   Boolean FEnabled = true;
   Integer FNoiseSeed = 1;
+  Single FGain = 1;
+  Double FReferenceLevel = 1;
+  TDate FCalibrationDate = 0;
+  TTime FStartTime = 0;
+  TDateTime FLastRun = 0;
+  Variant FParameter;
   TNotifyEvent FOnStart;
   Integer FStartCount = 0;
 };

@@ -11,9 +11,11 @@ namespace Tarvo {
 // The type code of a variant member, masked to 16 bits, as a 32-bit integer member. Writing
 // code 0 clears the variant, code 1 makes it Null, any other casts the variant to that type
 // (EVariantTypeCastError where there is no cast).
-class TARVO_API TVariantTypeMember : public TImplements<TNestedValueMemberInfo, IVariantTypeMemberInfo> {
+class TARVO_API TVariantTypeMember
+    : public TImplements<TNestedValueMemberInfo, IVariantTypeMemberInfo, INestedValueMemberInfo> {
 public:
   explicit TVariantTypeMember(TRef<IValueMemberInfo> AOwner);
+  TRef<IValueMemberInfo> GetOwnerMember() override { return GetOwner(); }
 
   TValue GetValue(TObject* AInstance) override;
   void SetValue(TObject* AInstance, const TValue& AValue) override;
@@ -51,6 +53,10 @@ public:
   void SetStringValue(const String& AValue) override;
   // The named codes in ascending order, then "String".
   TRef<IStringArrayList> GetStringListValues() override;
+  // The variant's stored answer.
+  TRef<IArrayList<TIsDefaultByStrored>> GetIsDefaultsByStored(const TRef<IObjectArrayList>& AObjectsList) override {
+    return FParentEditor->GetIsDefaultsByStored(AObjectsList);
+  }
 };
 
 } // namespace Tarvo

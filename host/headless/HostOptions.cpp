@@ -21,6 +21,9 @@ const char* const InspectUsage = "usage: tarvo-inspect [options]\n"
                                  "  --categories           show the rows under their category headings\n"
                                  "  --values PATH          print the row's list of values, one a line, instead of\n"
                                  "                         the rows (after the edits)\n"
+                                 "  --locale NAME          show and read numbers and dates as the locale NAME\n"
+                                 "                         writes them (de, en_US, ...); the design file keeps its\n"
+                                 "                         own form\n"
                                  "  --json                 print the rows as JSON: an array of row objects, a\n"
                                  "                         \"range\" and \"suggested_range\" [min, max] in those\n"
                                  "                         whose editor has them; with --values, an array of strings\n"
@@ -65,6 +68,7 @@ TInspectOptions ParseInspectOptions(const std::vector<String>& AArguments) {
     } else if (option == "--reset") options.Edits.push_back({TInspectEdit::ekReset, argument(), String()});
     else if (option == "--click") options.Edits.push_back({TInspectEdit::ekClick, argument(), String()});
     else if (option == "--filter") options.Filter = argument();
+    else if (option == "--locale") options.Locale = argument();
     else if (option == "--categories") options.Categories = true;
     else if (option == "--expand") options.Expand.push_back(argument());
     else if (option == "--expand-all") options.ExpandAll = true;

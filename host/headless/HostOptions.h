@@ -22,6 +22,7 @@ struct TInspectOptions {
   std::vector<String> Expand;
   std::optional<String> Values; // the row whose list of values is printed instead of the rows
   String Filter;                // words every shown row must match; empty: all rows
+  String Locale;                // numbers and dates as this locale writes them; empty: invariant
   Boolean Categories = false;   // rows under their category headings
   Boolean ExpandAll = false;
   Boolean Json = false;

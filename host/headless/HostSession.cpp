@@ -6,6 +6,7 @@
 #include "host/headless/HostDesigner.h"
 #include "host/headless/PackageScope.h"
 #include "host/headless/RowWriters.h"
+#include "platform/LocaleSettings.h"
 #include "reflection/ComponentRegistration.h"
 #include "rtl/Module.h"
 #include "runtime/DesignFile.h"
@@ -13,6 +14,21 @@
 namespace Tarvo {
 
 namespace {
+
+// The host's text settings for the package while a run lasts: the ones of the named locale.
+class THostFormatScope {
+public:
+  explicit THostFormatScope(const String& ALocale) : FSaved(FormatSettings) {
+    if (ALocale.empty()) return;
+    if (!TryFormatSettingsOf(ALocale, FormatSettings)) throw EInspectError("unknown locale \"" + ALocale + "\"");
+  }
+  ~THostFormatScope() { FormatSettings = FSaved; }
+  THostFormatScope(const THostFormatScope&) = delete;
+  THostFormatScope& operator=(const THostFormatScope&) = delete;
+
+private:
+  TFormatSettings FSaved;
+};
 
 // Unloads the modules it loaded, the last first.
 class TModulesScope {
@@ -74,6 +90,7 @@ std::vector<String> CategoryHeadings() {
 } // namespace
 
 String RunInspect(const TInspectOptions& AOptions, const TInspectPaths& APaths) {
+  const THostFormatScope settings(AOptions.Locale);
   const TPackageScope package;
   TModulesScope modules;
   modules.Load(APaths.SampleModule);

@@ -130,7 +130,9 @@ void TRowModel::Expand(TInspectorRow& ARow) {
       ReadRow(child, ARow.Path);
       ARow.Children.push_back(std::move(child));
     }
-  } else if (TRef<IMembersInfo> members; ARow.Editor->GetSubMembers(members, true)) {
+    return; // in the editor's order: a date's parts run from the year down
+  }
+  if (TRef<IMembersInfo> members; ARow.Editor->GetSubMembers(members, true)) {
     TMemberEditor* parent = ARow.Editor->GetInstance();
     TObject* first = FirstSelected();
     TObject* lookupObject = first ? parent->GetValueForRootInstance(first) : nullptr;
