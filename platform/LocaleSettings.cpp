@@ -24,7 +24,7 @@ String Pattern(const QString& APattern, char APlaceholder, char& ASeparator) {
       continue;
     }
     fieldSeen = true;
-    const String field = letter == 'y' ? "yyyy"
+    const String field = letter == 'y'   ? "yyyy"
                          : letter == 'M' ? String(std::min<qsizetype>(run, 2), 'm')
                          : letter == 'd' ? String(std::min<qsizetype>(run, 2), 'd')
                                          : String();

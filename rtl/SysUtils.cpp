@@ -274,6 +274,10 @@ String CurrToStr(Currency AValue, const TFormatSettings& ASettings) {
 
 bool TryStrToFloat(std::string_view AText, Extended& AResult, const TFormatSettings& ASettings) {
   const String text = Trim(AText);
+  // What FloatToStr writes for the values that have no digits.
+  for (const Extended special : {std::numeric_limits<Extended>::quiet_NaN(), std::numeric_limits<Extended>::infinity(),
+                                 -std::numeric_limits<Extended>::infinity()})
+    if (SameText(text, *NonFiniteText(special))) return AResult = special, true;
   const std::size_t n = text.size();
   std::size_t i = 0;
   const bool negative = i < n && text[i] == '-';

@@ -91,6 +91,7 @@ String CurrToStr(Currency AValue);
 String CurrToStr(Currency AValue, const TFormatSettings& ASettings);
 
 // Optional sign, digits with a decimal separator, optional exponent; blanks around are trimmed.
+// "NAN", "INF" and "-INF", in any case, are the values FloatToStr writes so.
 bool TryStrToFloat(std::string_view AText, Extended& AResult);
 bool TryStrToFloat(std::string_view AText, Extended& AResult, const TFormatSettings& ASettings);
 bool TryStrToFloat(std::string_view AText, Double& AResult);

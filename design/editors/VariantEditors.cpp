@@ -44,9 +44,10 @@ TValue TVariantTypeMember::GetDefault(TObject* AInstance) {
 void TVariantTypeMember::SetValue(TObject* AInstance, const TValue& AValue) {
   const Variant old = VariantOf(GetOwner()->GetValue(AInstance));
   const Integer code = AValue.AsInteger();
+  // A cast to the string code gives the runtime's one string type, code 258.
   const Variant changed = code == varEmpty  ? Variant()
                           : code == varNull ? Variant::Null()
-                                            : VarCast(old, TVarType(code));
+                                            : VarCast(old, code == varString ? varUString : TVarType(code));
   GetOwner()->SetValue(AInstance, ValueOf(changed));
 }
 

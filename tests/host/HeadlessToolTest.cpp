@@ -55,6 +55,13 @@ TEST(HeadlessToolTest, RowsWithMarkersAfterTheWritesWentThroughTheEditors) {
   EXPECT_NE(run.Out.find("\nGainDb = 0\n"), String::npos) << run.Out;
   // A multi-line text stays on its row.
   EXPECT_NE(run.Out.find("Description = Band-pass for the test tone.\\nKeeps"), String::npos) << run.Out;
+
+  // Numbers and dates as the host's locale writes them; a date's parts from the year down.
+  run = RunTool("--locale de --set Gain=0,25 --expand CalibrationDate");
+  ASSERT_EQ(run.ExitCode, 0) << run.Err;
+  EXPECT_NE(run.Out.find("\nGain = 0,25  *\n"), String::npos) << run.Out;
+  EXPECT_NE(run.Out.find("\nCalibrationDate = 14.03.2026  * +\n  Year = 2026  *\n  Month = 3  *\n"), String::npos)
+      << run.Out;
 }
 
 // Every field of a row, the ranges where the editor answers them: Offset suppresses its hard one.
@@ -133,6 +140,8 @@ TEST(HeadlessToolTest, BadInputIsOneClearMessageWithExitCodeTwoAndNothingPrinted
       {"text the converter refuses", "--set frequency=abc", "Frequency: \"abc\" was not accepted"},
       {"number beyond the type", "--select Scope1 --set Gain=300", "Gain: \"300\" was not accepted"},
       {"text the editor refuses", "--select Filter1 --set Separator=xyz", "Invalid property value"},
+      {"text the date row refuses", "--set CalibrationDate=2024-02-30", "'2024-02-30' is not a valid date"},
+      {"unknown locale", "--locale xx", "unknown locale \"xx\""},
       {"row without a list", "--values Frequency", "Frequency: no list of values"},
       {"row that takes no click", "--select Scope1 --click gain", "row \"Gain\" takes no click"},
       {"click on no row", "--click Bogus", "no row \"Bogus\""},

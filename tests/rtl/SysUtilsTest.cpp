@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cfloat>
 #include <limits>
 
@@ -139,9 +140,11 @@ TEST(SysUtilsFloatTest, TextToNumbers) {
       {{"blanks around", " 1.5 ", 1.5L},
        {"no integer digits", "+.5", 0.5L},
        {"no fraction digits", "5.", 5},
-       {"a signed exponent", "7e+1", 70}},
-      {"", ".", "1e", "e5", "1.2.3", "1,5", "1 2", "inf", "1e99999"});
+       {"a signed exponent", "7e+1", 70},
+       {"infinity as FloatToStr writes it", "-inf", -std::numeric_limits<Extended>::infinity()}},
+      {"", ".", "1e", "e5", "1.2.3", "1,5", "1 2", "infinity", "1e99999"});
   Double narrow = 0;
+  EXPECT_TRUE(TryStrToFloat("NAN", narrow) && std::isnan(narrow));
   EXPECT_FALSE(TryStrToFloat("1e400", narrow)); // fits Extended, not Double
   EXPECT_TRUE(TryStrToFloat("1,25", narrow, CommaSettings()));
   EXPECT_EQ(narrow, 1.25);

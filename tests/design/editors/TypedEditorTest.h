@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "rtl/Variant.h"
 #include "runtime/Component.h"
 #include "runtime/NamedTypes.h"
 #include "tests/design/EditorTestSupport.h"
@@ -30,6 +31,10 @@ public:
   TShapeType FShape = stRectangle;
   Boolean FFlag = false;
   TTypedChannels FMask, FUnstoredMask;
+  Single FSingle = 0.1f;
+  Double FDouble = 0, FReal = 0;
+  TDateTime FDate = 0, FTime = 0, FStamp = 0;
+  Variant FVariant;
 };
 
 // Editors are of class D unless a test names another.

@@ -41,6 +41,14 @@ TARVO_PUBLISH(TTypedGadget) {
   Property("Flag", &T::FFlag, &T::FFlag);
   Property("Mask", &T::FMask, &T::FMask).Default(TTypedChannels());
   Property("UnstoredMask", &T::FUnstoredMask, &T::FUnstoredMask).Default(TTypedChannels()).Stored(false);
+  Property("Single", &T::FSingle, &T::FSingle);
+  Property("Double", &T::FDouble, &T::FDouble).Default(0.0);
+  Property("Real", &T::FReal, &T::FReal, &TypeInfo_Real);
+  Property("Ranged", &T::FDouble, &T::FDouble).Attr<DesignRangeAttribute>(TValue(-1.0), TValue(1.0));
+  Property("Date", &T::FDate, &T::FDate, &TypeInfo_TDate);
+  Property("Time", &T::FTime, &T::FTime, &TypeInfo_TTime);
+  Property("Stamp", &T::FStamp, &T::FStamp, &TypeInfo_TDateTime);
+  Property("Variant", &T::FVariant, &T::FVariant);
   Public();
   Property("Inner", &T::FInner, &T::FInner);
 }
