@@ -41,6 +41,14 @@ TEST_F(VariantEditorsTest, ValueAndTypeTexts) {
     EXPECT_EQ(FValueRow->GetDisplayValue(nullptr), ARow.Text);
     EXPECT_EQ(type->GetDisplayValue(nullptr), ARow.Type);
   });
+  // Codes no variant of this runtime takes, read from an integer member: the flags above the
+  // type are ignored, 258 is "String", any other unnamed code "(Unknown)".
+  const auto codes = MakeEditor<TVariantTypePropertyEditor>(FDesigner, "Channel");
+  for (const auto& [code, name] :
+       {std::pair<Integer, String>{0x2003, "Integer"}, {258, "String"}, {300, "(Unknown)"}}) {
+    FFirst.FChannel = FSecond.FChannel = code;
+    EXPECT_EQ(codes->GetDisplayValue(nullptr), name) << code;
+  }
   const std::vector<String> names = type->GetStringListValues()->ToArray();
   EXPECT_EQ(names.size(), 16u);
   EXPECT_EQ(names.back(), "String");
