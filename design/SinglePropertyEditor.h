@@ -66,7 +66,7 @@ public:
 
 // An editor that edits its value in a dialog of its own. AOwner, the host's window, may be nil.
 class TARVO_API IPropertyEditorDialog : public virtual IInterface {
-  TARVO_INTERFACE(IPropertyEditorDialog, "{5A0E7C2B-91D4-4F36-8B1E-2C7D3F9A6E41}", IInterface)
+  TARVO_INTERFACE(IPropertyEditorDialog, "{DC06C4E5-BF66-45FA-ADF1-6680B3EE426D}", IInterface)
 public:
   virtual void Execute(QWidget* AOwner) = 0;
 };
