@@ -21,7 +21,18 @@ template <class I, class J> TRef<I> MemberAs(const TRef<J>& AMember, const Strin
   return result;
 }
 
+TInjectedInterfaceQuery GInjectedInterfaceQuery = nullptr;
+
 } // namespace
+
+void SetInjectedInterfaceQuery(TInjectedInterfaceQuery AQuery) { GInjectedInterfaceQuery = AQuery; }
+
+HRESULT TSinglePropertyEditor::QueryInterface(const TGUID& AIID, void** AObj) {
+  // Reached when no class between the editor's and this one implements AIID.
+  const HRESULT own = inherited::QueryInterface(AIID, AObj);
+  if (own == S_OK || !GInjectedInterfaceQuery) return own;
+  return GInjectedInterfaceQuery(*this, AIID, AObj) ? S_OK : own;
+}
 
 void TSinglePropertyEditor::AfterConstruction() {
   inherited::AfterConstruction();

@@ -71,8 +71,26 @@ public:
   virtual void Execute(QWidget* AOwner) = 0;
 };
 
-// Interfaces that attributes of the member make on demand (drop-down lists, the list dialog) are
-// to be answered by an override of QueryInterface; until then the editor answers as its base.
+// An editor class that has a list implements these to withhold, for the value at hand, the list
+// dialog or the list that the member's attributes would give it.
+class TARVO_API IOptionalPropertyEditorDialog : public virtual IInterface {
+  TARVO_INTERFACE(IOptionalPropertyEditorDialog, "{558F4530-50FE-488D-BC83-4E07356D866E}", IInterface)
+public:
+  virtual Boolean GetDialogAvailable() = 0;
+};
+
+class TARVO_API IOptionalPropertyEditorDropDownList : public virtual IInterface {
+  TARVO_INTERFACE(IOptionalPropertyEditorDropDownList, "{BE938703-32BC-4F47-AED6-D4DB480E8392}", IInterface)
+public:
+  virtual Boolean GetDropDownListAvailable() = 0;
+};
+
+// Answers, for an interface the editor's class does not implement, an object made from the
+// member's attributes (a drop-down list, the list dialog); false when it makes none. The package
+// installs it at start-up; nil leaves every editor with its class's interfaces alone.
+using TInjectedInterfaceQuery = Boolean (*)(TSinglePropertyEditor& AEditor, const TGUID& AIID, void** AObj);
+TARVO_API void SetInjectedInterfaceQuery(TInjectedInterfaceQuery AQuery);
+
 class TARVO_API TSinglePropertyEditor : public TImplements<TMemberEditor, IPropertyEditor> {
   TARVO_CLASS(TSinglePropertyEditor, TImplements<TMemberEditor, IPropertyEditor>)
 
@@ -84,6 +102,8 @@ public:
   // reach the subclass, so the setup runs here: the factory calls it right after the
   // constructor, before anyone holds the object.
   void AfterConstruction() override;
+  // After the interfaces of the editor's class, those its member's attributes give it.
+  HRESULT QueryInterface(const TGUID& AIID, void** AObj) override;
 
   TRef<IArrayList<TIsDefaultByStrored>> GetIsDefaultsByStored(const TRef<IObjectArrayList>& AObjectsList) override;
   // True at once when the editor class carries ReadOnlyAttribute; else the member decides.

@@ -34,10 +34,15 @@ int main(int argc, char** argv) {
       std::cout << Tarvo::InspectUsage;
       return 0;
     }
-    // A list of values may come from the platform (the machine's fonts), which needs an
-    // application object, though no screen.
+    // A list of values may come from the platform (the machine's fonts), and a dialog is a
+    // window: both need an application object, though no screen.
+    const auto runsDialog = [&] {
+      for (const Tarvo::TInspectEdit& edit : options.Edits)
+        if (edit.Kind == Tarvo::TInspectEdit::ekDialog) return true;
+      return false;
+    };
     std::optional<QApplication> application;
-    if (options.Values) {
+    if (options.Values || runsDialog()) {
       if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
       GQtMessages = qInstallMessageHandler(FilterQtMessages);
       application.emplace(argc, argv);

@@ -17,6 +17,7 @@ void RegisterDesignEditors() {
   RegisterFloatEditors();
   RegisterDateTimeEditors();
   RegisterVariantEditors();
+  RegisterClassEditors();
 }
 
 } // namespace Tarvo

@@ -3,6 +3,7 @@
 #include "containers/List.h"
 #include "design/MemberCategoryRegistry.h"
 #include "design/Registry.h"
+#include "design/components/InjectedInterfaces.h"
 #include "design/editors/BasicEditors.h"
 #include "design/paint/PaintObjects.h"
 #include "reflection/ComponentRegistration.h"
@@ -33,6 +34,7 @@ void InitializeDesignUnit() {
   GComponentRegisteredKey = RegisterComponentRegisteredNotify(RegisterHiddenMembers);
   RegisterDesignCategories();
   RegisterDesignEditors();
+  SetInjectedInterfaceQuery(QueryInjectedInterface);
   GComponentRegistrationKey = AddComponentRegistrationProcedure(RegisterMemberCategoriesOf);
   GModuleUnloadKey = AddModuleUnloadProc(SweepModule);
 }
@@ -42,6 +44,7 @@ void FinalizeDesignUnit() {
   RemoveComponentRegistrationProcedure(GComponentRegistrationKey);
   UnregisterComponentRegisteredNotify(GComponentRegisteredKey);
   FinalizeDesignPaintObjects();
+  SetInjectedInterfaceQuery(nullptr);
   GMemberEditors = nullptr;
   GMemberCategories = nullptr;
   DefaultEditorClasses = TFallbackEditorClasses();

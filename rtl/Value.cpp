@@ -443,7 +443,8 @@ String TValue::ToString() const {
     return VarToStr(*static_cast<const Variant*>(data));
   case tkClass: {
     const TObject* object = AsObject();
-    return object ? String("(") + object->ClassName() + " @ " + AddressText(object) + ")" : String("nil");
+    // The class alone: an address would differ on every run, and a row or a log shows this text.
+    return object ? String("(") + object->ClassName() + ")" : String("nil");
   }
   case tkClassRef: {
     const TClass cls = AsClass();
@@ -451,7 +452,9 @@ String TValue::ToString() const {
   }
   case tkInterface: {
     const TRef<IInterface> intf = AsInterface();
-    return intf ? "(interface @ " + AddressText(InterfaceIdentity(intf.get())) + ")" : String("nil");
+    if (!intf) return "nil";
+    const TObject* object = ObjectOf(intf);
+    return object ? String("(") + object->ClassName() + ")" : String("(interface)");
   }
   case tkPointer:
     return "(pointer @ " + AddressText(*static_cast<void* const*>(data)) + ")";

@@ -1,4 +1,5 @@
 #include "runtime/Component.h"
+#include "runtime/DynamicElement.h"
 
 #include <algorithm>
 
@@ -29,6 +30,7 @@ private:
 // ---- TPersistent ----
 
 TARVO_IMPLEMENT_CLASS(TPersistent)
+TARVO_IMPLEMENT_CLASS(TDynamicElement)
 
 void TPersistent::Assign(TPersistent* ASource) {
   if (ASource) ASource->AssignTo(this);

@@ -52,9 +52,18 @@ TARVO_PUBLISH(TSignalGenerator) {
   Property("StartTime", &TSignalGenerator::GetStartTime, &TSignalGenerator::SetStartTime, &TypeInfo_TTime);
   Property("LastRun", &TSignalGenerator::GetLastRun, &TSignalGenerator::SetLastRun, &TypeInfo_TDateTime);
   Property("Parameter", &TSignalGenerator::GetParameter, &TSignalGenerator::SetParameter);
+  // The shape of wfNoise, chosen among the registered shapes; plain white noise without one.
+  Property("NoiseShape", &TSignalGenerator::GetNoiseShape, &TSignalGenerator::SetNoiseShape)
+      .Attr<DynamicElementAttribute>();
+  // Named settings the generator knows, offered with "Custom" after them and picked in a dialog.
+  Property("Preset", &TSignalGenerator::GetPreset, &TSignalGenerator::SetPreset)
+      .Attr<PropertyListDesignAssociationAttribute>("GeneratorPresets")
+      .Attr<PropertyListDesignValueAttribute>("Custom", true)
+      .Attr<PropertyListDialogDesignAttribute>("Choose a preset");
   Property("OnStart", &TSignalGenerator::GetOnStart, &TSignalGenerator::SetOnStart);
   Public();
   Method("Start", &TSignalGenerator::Start);
+  Method("PresetNames", &TSignalGenerator::PresetNames).Attr<DesignAssociationAttribute>("GeneratorPresets");
   Method("Advance", &TSignalGenerator::Advance, {"ACount"});
   Method("ValueAt", &TSignalGenerator::ValueAt, {"AIndex"});
   Protected();
@@ -66,20 +75,15 @@ TARVO_PUBLISH(TSignalGenerator) {
 namespace {
 const TSignalPaletteRegistration GeneratorRegistration(TSignalGenerator::ClassInfo());
 
-// Repeatable noise in -1..1: one mixing step of a 64-bit hash over the seed and the index.
-Double NoiseAt(Integer ASeed, Int64 AIndex) {
-  UInt64 x = (UInt64(std::uint32_t(ASeed)) << 32) ^ UInt64(AIndex);
-  x += 0x9E3779B97F4A7C15ull;
-  x = (x ^ (x >> 30)) * 0xBF58476D1CE4E5B9ull;
-  x = (x ^ (x >> 27)) * 0x94D049BB133111EBull;
-  x ^= x >> 31;
-  return Double(x >> 11) / Double(UInt64(1) << 53) * 2 - 1;
-}
 } // namespace
 
 void TSignalGenerator::SetFrequency(Double AValue) {
   if (!(AValue >= 0)) throw EConvertError("Frequency must not be negative: " + FloatToStr(Extended(AValue)));
   FFrequency = AValue;
+}
+
+TRef<IStringArrayList> TSignalGenerator::PresetNames() const {
+  return New<TStringArrayList>()->Append(std::vector<String>{"Test tone", "Calibration", "Sweep start"});
 }
 
 void TSignalGenerator::Start() {
@@ -106,7 +110,7 @@ Double TSignalGenerator::ValueAt(Int64 AIndex) const {
   case wfSawtooth:
     return FAmplitude * (2 * t - 1);
   case wfNoise:
-    return FAmplitude * NoiseAt(FNoiseSeed, AIndex);
+    return FAmplitude * (FNoiseShape ? FNoiseShape->Shape(FNoiseSeed, AIndex) : NoiseAt(FNoiseSeed, AIndex));
   }
   return 0;
 }

@@ -1,9 +1,11 @@
 #pragma once
 // A periodic signal: a waveform at a frequency, read sample by sample.
 
+#include "containers/List.h"
 #include "runtime/Component.h"
 #include "runtime/Events.h"
 #include "rtl/Variant.h"
+#include "samples/NoiseShapes.h"
 #include "samples/SignalSource.h"
 
 namespace Signals {
@@ -57,6 +59,13 @@ public:
   // A free parameter of the waveform: a number, a text, or nothing.
   const Variant& GetParameter() const { return FParameter; }
   void SetParameter(const Variant& AValue) { FParameter = AValue; }
+  // Owned: a new shape replaces and frees the old one.
+  TNoiseShape* GetNoiseShape() const { return FNoiseShape.get(); }
+  void SetNoiseShape(TNoiseShape* AValue) { FNoiseShape.reset(AValue); }
+  const String& GetPreset() const { return FPreset; }
+  void SetPreset(const String& AValue) { FPreset = AValue; }
+  // The presets the generator knows, for the Preset row's list.
+  TRef<IStringArrayList> PresetNames() const;
   const TNotifyEvent& GetOnStart() const { return FOnStart; }
   void SetOnStart(const TNotifyEvent& AValue) { FOnStart = AValue; }
 
@@ -87,6 +96,8 @@ private:
   TTime FStartTime = 0;
   TDateTime FLastRun = 0;
   Variant FParameter;
+  TOwnedObject<TNoiseShape> FNoiseShape;
+  String FPreset;
   TNotifyEvent FOnStart;
   Integer FStartCount = 0;
 };

@@ -20,7 +20,14 @@ TARVO_IMPLEMENT_SET(TScopeChannels, TScopeChannel)
 TARVO_IMPLEMENT_CLASS(TSignalScope)
 
 TARVO_PUBLISH(TSignalScope) {
-  Property("Source", &TSignalScope::GetSource, &TSignalScope::SetSource);
+  Property("Source", &TSignalScope::GetSourceComponent, &TSignalScope::SetSourceComponent);
+  Property("VerticalUnit", &TSignalScope::GetVerticalUnit, &TSignalScope::SetVerticalUnit)
+      .Default(String("V"))
+      .Attr<PropertyListDesignValueAttribute>("V")
+      .Attr<PropertyListDesignValueAttribute>("mV")
+      .Attr<PropertyListDesignValueAttribute>("dBV");
+  Property("TitleFont", &TSignalScope::GetTitleFont, &TSignalScope::SetTitleFont);
+  Property("Display", &TSignalScope::GetDisplay, &TSignalScope::SetDisplay);
   Property("Timebase", &TSignalScope::GetTimebase, &TSignalScope::SetTimebase).Default(0.01);
   Property("Divisions", &TSignalScope::GetDivisions, &TSignalScope::SetDivisions).Default(Byte(10));
   Property("Grid", &TSignalScope::GetGrid, &TSignalScope::SetGrid).Default(true);
@@ -80,6 +87,14 @@ void TSignalScope::SetSource(const TRef<ISignalSource>& AValue) {
   auto* component = dynamic_cast<TComponent*>(ObjectOf(AValue));
   if (AValue && !component) throw EConvertError("The source of scope '" + GetName() + "' must be a component");
   SetComponentReference(FSource, component);
+}
+
+void TSignalScope::SetSourceComponent(TComponent* AValue) {
+  TRef<ISignalSource> source;
+  if (AValue && !Supports(AValue, source))
+    throw EConvertError("'" + AValue->GetName() + "' gives no signal: the source of scope '" + GetName() +
+                        "' must be a generator or a filter");
+  SetComponentReference(FSource, AValue);
 }
 
 Double TSignalScope::Peak(Integer ACount) const {

@@ -3,7 +3,9 @@
 // write the designer makes to it asks for a redraw.
 
 #include "runtime/Controls.h"
+#include "runtime/Graphics.h"
 #include "runtime/LockItem.h"
+#include "samples/DisplaySettings.h"
 #include "samples/SignalSource.h"
 
 namespace Signals {
@@ -33,6 +35,18 @@ public:
   TRef<ISignalSource> GetSource() const;
   // A source that is no component cannot be followed, and is refused.
   void SetSource(const TRef<ISignalSource>& AValue);
+  // The source as the designer picks it: a component of the design; one that gives no signal is
+  // refused.
+  TComponent* GetSourceComponent() const { return FSource; }
+  void SetSourceComponent(TComponent* AValue);
+  // The units of the vertical axis.
+  const String& GetVerticalUnit() const { return FVerticalUnit; }
+  void SetVerticalUnit(const String& AValue) { FVerticalUnit = AValue; }
+  // The scope's own: setting one copies the value in.
+  TFont* GetTitleFont() const { return FTitleFont.get(); }
+  void SetTitleFont(TFont* AValue) { FTitleFont->Assign(AValue); }
+  TDisplaySettings* GetDisplay() const { return FDisplay.get(); }
+  void SetDisplay(TDisplaySettings* AValue) { FDisplay->Assign(AValue); }
   // Seconds per division.
   Double GetTimebase() const { return FTimebase; }
   void SetTimebase(Double AValue) { FTimebase = AValue; }
@@ -85,6 +99,9 @@ protected:
 
 private:
   TComponent* FSource = nullptr;
+  String FVerticalUnit = "V";
+  TOwnedObject<TFont> FTitleFont{Construct<TFont>()};
+  TOwnedObject<TDisplaySettings> FDisplay{Construct<TDisplaySettings>()};
   Double FTimebase = 0.01;
   Byte FDivisions = 10;
   Boolean FGrid = true;

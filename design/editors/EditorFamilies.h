@@ -26,5 +26,7 @@ void RegisterFloatEditors();
 void RegisterDateTimeEditors();
 // Variants and their "Type" rows.
 void RegisterVariantEditors();
+// Objects, references to components, owned elements of a chosen class, and interfaces.
+void RegisterClassEditors();
 
 } // namespace Tarvo

@@ -14,6 +14,10 @@ const char* const InspectUsage = "usage: tarvo-inspect [options]\n"
                                  "  --reset PATH           reset the row to its default (repeatable, in order)\n"
                                  "  --click PATH           click the row's value cell, as on a check box (repeatable,\n"
                                  "                         in order with --set and --reset)\n"
+                                 "  --dialog PATH          run the row's dialog (repeatable, in order with the edits);\n"
+                                 "                         it is cancelled unless an --answer follows\n"
+                                 "  --answer TEXT          what the user picks or types in the dialog of the --dialog\n"
+                                 "                         before it, then OK\n"
                                  "  --expand PATH          show the sub-rows of a row (repeatable)\n"
                                  "  --expand-all           show the sub-rows of every row\n"
                                  "  --filter WORDS         show the rows whose name or value holds all the words, in\n"
@@ -67,7 +71,13 @@ TInspectOptions ParseInspectOptions(const std::vector<String>& AArguments) {
       options.Edits.push_back({TInspectEdit::ekSet, assignment.substr(0, equals), assignment.substr(equals + 1)});
     } else if (option == "--reset") options.Edits.push_back({TInspectEdit::ekReset, argument(), String()});
     else if (option == "--click") options.Edits.push_back({TInspectEdit::ekClick, argument(), String()});
-    else if (option == "--filter") options.Filter = argument();
+    else if (option == "--dialog") options.Edits.push_back({TInspectEdit::ekDialog, argument(), String()});
+    else if (option == "--answer") {
+      if (options.Edits.empty() || options.Edits.back().Kind != TInspectEdit::ekDialog || options.Edits.back().Answered)
+        throw EInspectError("--answer follows the --dialog it answers");
+      options.Edits.back().Text = argument();
+      options.Edits.back().Answered = true;
+    } else if (option == "--filter") options.Filter = argument();
     else if (option == "--locale") options.Locale = argument();
     else if (option == "--categories") options.Categories = true;
     else if (option == "--expand") options.Expand.push_back(argument());

@@ -9,9 +9,10 @@
 namespace Tarvo {
 
 struct TInspectEdit {
-  enum TKind { ekSet, ekReset, ekClick } Kind;
+  enum TKind { ekSet, ekReset, ekClick, ekDialog } Kind;
   String Path;
-  String Text; // for ekSet
+  String Text;           // for ekSet; for ekDialog the answer
+  Boolean Answered = false; // for ekDialog: without an answer the dialog is cancelled
 };
 
 struct TInspectOptions {

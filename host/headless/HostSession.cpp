@@ -3,10 +3,12 @@
 #include <nlohmann/json.hpp>
 
 #include "design/MemberCategoryRegistry.h"
+#include "host/headless/DialogAnswer.h"
 #include "host/headless/HostDesigner.h"
 #include "host/headless/PackageScope.h"
 #include "host/headless/RowWriters.h"
 #include "platform/LocaleSettings.h"
+#include "platform/ModalSeam.h"
 #include "reflection/ComponentRegistration.h"
 #include "rtl/Module.h"
 #include "runtime/DesignFile.h"
@@ -79,6 +81,17 @@ void SetValue(TRowModel& AInspector, const THostDesigner& ADesigner, const TInsp
     throw EInspectError(AInspector.Find(AEdit.Path).Path + ": \"" + AEdit.Text + "\" was not accepted");
 }
 
+// The dialog runs with the answer of the command line; an answer it takes writes, or it is
+// reported as --set reports dropped text.
+void RunDialog(TRowModel& AInspector, const THostDesigner& ADesigner, const TInspectEdit& AEdit) {
+  const std::optional<String> answer = AEdit.Answered ? std::optional<String>(AEdit.Text) : std::nullopt;
+  const TModalHandlerScope user([&](QDialog& ADialog) { return AnswerDialog(ADialog, answer); });
+  const Integer notices = ADesigner.ModifiedCount();
+  AInspector.Dialog(AEdit.Path);
+  if (answer && ADesigner.ModifiedCount() == notices)
+    throw EInspectError(AInspector.Find(AEdit.Path).Path + ": \"" + *answer + "\" was not accepted");
+}
+
 // The headings of the categories, in the order they were first used.
 std::vector<String> CategoryHeadings() {
   std::vector<String> headings;
@@ -108,6 +121,7 @@ String RunInspect(const TInspectOptions& AOptions, const TInspectPaths& APaths) 
   for (const TInspectEdit& edit : AOptions.Edits) {
     if (edit.Kind == TInspectEdit::ekSet) SetValue(inspector, *designer, edit);
     else if (edit.Kind == TInspectEdit::ekClick) inspector.Click(edit.Path);
+    else if (edit.Kind == TInspectEdit::ekDialog) RunDialog(inspector, *designer, edit);
     else inspector.ResetValue(edit.Path);
     inspector.Refresh();
   }

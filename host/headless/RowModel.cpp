@@ -45,6 +45,14 @@ TMemberKind KindOf(const TRef<IMemberInfo>& AMember) {
   return type && type->GetTypeKind() == tkMethod ? mkEvent : mkSingleProperty;
 }
 
+// A row marked as expandable that would open on nothing (a reference to a component) is not
+// offered as one.
+Boolean HasSubRows(const TRef<IMemberEditor>& AEditor) {
+  if (Supports<ISubPropertyEditors>(AEditor)) return true;
+  TRef<IMembersInfo> members;
+  return AEditor->GetSubMembers(members, true) && members->GetCount() > 0;
+}
+
 String JoinPath(const String& AParentPath, const String& AName) {
   return AParentPath.empty() ? AName : AParentPath + "." + AName;
 }
@@ -88,7 +96,7 @@ void TRowModel::ReadRow(TInspectorRow& ARow, const String& AParentPath) {
   ARow.DisplayName = editor->GetDisplayName();
   ARow.EditorName = editor->GetEditorName();
   ARow.ReadOnly = editor->GetIsReadOnly();
-  ARow.Expandable = editor->GetIsExpandable();
+  ARow.Expandable = editor->GetIsExpandable() && HasSubRows(editor);
   if (TRef<IPropertyRange> range; Supports(editor, range))
     ARow.Range = TInspectorRange{range->GetMinValue(), range->GetMaxValue()};
   if (TRef<IPropertySuggestedRange> range; Supports(editor, range))
@@ -198,6 +206,13 @@ std::vector<String> TRowModel::Values(const String& APath) {
   TRef<IPropertyEditorDropDownStringList> list;
   if (!Supports(row.Editor, list)) throw EInspectError(row.Path + ": no list of values");
   return list->GetStringListValues()->ToArray();
+}
+
+void TRowModel::Dialog(const String& APath) {
+  const TInspectorRow& row = Find(APath);
+  TRef<IPropertyEditorDialog> dialog;
+  if (!Supports(row.Editor, dialog)) throw EInspectError("row \"" + row.Path + "\" has no dialog");
+  dialog->Execute(nullptr);
 }
 
 } // namespace Tarvo

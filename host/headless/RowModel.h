@@ -61,6 +61,8 @@ public:
   void Click(const String& APath);
   // The drop-down list of the row's editor, as it gives it.
   std::vector<String> Values(const String& APath);
+  // Runs the row's dialog, as its "..." button would; raises EInspectError when it has none.
+  void Dialog(const String& APath);
 
 private:
   // The row of AMember on ALookupObject, or none when the package gives it no visible editor.
