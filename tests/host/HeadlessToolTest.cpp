@@ -109,6 +109,26 @@ TEST(HeadlessToolTest, ValuesPrintsTheRowsListOneALineOrAsAJsonArray) {
   EXPECT_EQ(nlohmann::json::parse(run.Out), nlohmann::json(families));
 }
 
+TEST(HeadlessToolTest, ObjectRowsShowSummariesAndArePickedByNameOrInTheirDialogs) {
+  TToolRun run = RunTool("--select Scope1 --set Source=Generator2 --set Display=Night --expand Display");
+  ASSERT_EQ(run.ExitCode, 0) << run.Err;
+  for (const char* line : {"\nSource = Generator2\n", "\nDisplay = Night  * +\n  Intensity = 80\n",
+                           "\n  Title = Night  *\n", "\nTitleFont = (Charset=1,"})
+    EXPECT_NE(run.Out.find(line), String::npos) << line << run.Out;
+  EXPECT_EQ(run.Out.find(" @ "), String::npos) << "no address in any row";
+
+  run = RunTool("--set NoiseShape=\"Pink noise\" --set NoiseShape.Octaves=6 --dialog Preset --answer calibration");
+  ASSERT_EQ(run.ExitCode, 0) << run.Err;
+  for (const char* line : {"\nNoiseShape = Pink noise  * +\n", "\nPreset = Calibration  *\n"})
+    EXPECT_NE(run.Out.find(line), String::npos) << line << run.Out;
+  run = RunTool("--dialog Preset");
+  EXPECT_NE(run.Out.find("\nPreset = \n"), String::npos) << "a dialog without an answer is cancelled\n" << run.Out;
+
+  EXPECT_EQ(RunTool("--values NoiseShape").Out, "White noise\nPink noise\nBrown noise\n");
+  EXPECT_EQ(RunTool("--values Preset").Out, "Test tone\nCalibration\nSweep start\nCustom\n");
+  EXPECT_EQ(RunTool("--select Filter1 --values Input").Out, "Generator1\nGenerator2\nFilter1\nScope1\nTriggerMark\nBaseline\n");
+}
+
 TEST(HeadlessToolTest, ListsTheRegisteredClassesWithTheirPages) {
   // The bundled module named again, twice: each load counts and is balanced by its unload.
   const String module = String(" --module ") + TARVO_SAMPLES_MODULE_PATH;
@@ -145,6 +165,14 @@ TEST(HeadlessToolTest, BadInputIsOneClearMessageWithExitCodeTwoAndNothingPrinted
       {"row without a list", "--values Frequency", "Frequency: no list of values"},
       {"row that takes no click", "--select Scope1 --click gain", "row \"Gain\" takes no click"},
       {"click on no row", "--click Bogus", "no row \"Bogus\""},
+      {"component of the wrong kind", "--select Scope1 --set Source=Scope1",
+       "'Scope1' gives no signal: the source of scope 'Scope1' must be a generator or a filter"},
+      {"expanding a reference", "--select Filter1 --expand Input", "row \"Input\" does not expand"},
+      {"answer the dialog lacks", "--dialog Preset --answer Nope", "the dialog \"Choose a preset\" offers no \"Nope\""},
+      {"answer outside a fixed list", "--select Generator2 --dialog SampleRate --answer 96000 --set SampleRate=1",
+       "SampleRate: \"1\" was not accepted"},
+      {"answer without a dialog", "--answer x", "--answer follows the --dialog it answers"},
+      {"row without a dialog", "--dialog Frequency", "row \"Frequency\" has no dialog"},
       {"list asked twice", "--values SampleRate --values Waveform", "--values may be given once"},
       {"bad design", "--design " + design, design + ": Unknown property 'Pitch' of component 'G' (TSignalGenerator)"}};
   Testing::ForEachRow(cases, [](const auto& bad) {
