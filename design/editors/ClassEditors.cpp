@@ -1,5 +1,6 @@
 #include "design/editors/ClassEditors.h"
 
+#include <map>
 #include <unordered_set>
 
 #include "design/Registry.h"
@@ -17,6 +18,24 @@ TARVO_IMPLEMENT_CLASS(TClassPropertyEditor)
 TARVO_IMPLEMENT_CLASS(TComponentPropertyEditor)
 TARVO_IMPLEMENT_CLASS(TDynamicElementPropertyEditor)
 TARVO_IMPLEMENT_CLASS(TInterfacePropertyEditor)
+
+// The registry's answers for the sub-members of objects of one class are the same: a walk over many
+// selected objects asks once a member and class.
+class TSubEditorClasses {
+public:
+  TMemberEditorClass Of(const TRef<IMemberInfo>& AMember, TObject* AObject) {
+    const auto key = std::make_pair(AMember.get(), AObject->ClassType());
+    if (const auto found = FClasses.find(key); found != FClasses.end()) return found->second;
+    TRef<IArrayList<TMemberEditorClass>> classes;
+    const TMemberEditorClass first = GetMemberEditorClasses(AMember, AObject, classes) && classes->GetCount() > 0
+                                         ? classes->GetItem(0)
+                                         : TMemberEditorClass();
+    return FClasses[key] = first;
+  }
+
+private:
+  std::map<std::pair<IMemberInfo*, TClass>, TMemberEditorClass> FClasses;
+};
 
 namespace {
 
@@ -52,17 +71,18 @@ Boolean IsProperty(const TRef<IMemberInfo>& AMember) {
 }
 
 // The editor the registry gives AMember on AObject, built on that object alone; nil when none.
-TRef<IMemberEditor> EditorOn(const TRef<IMemberInfo>& AMember, TObject* AObject, const TRef<IDesigner>& ADesigner) {
-  TRef<IArrayList<TMemberEditorClass>> classes;
-  if (!GetMemberEditorClasses(AMember, AObject, classes) || classes->GetCount() == 0) return nullptr;
-  return TRef<IMemberEditor>(classes->GetItem(0).Create(AObject, nullptr, ADesigner, nullptr, AMember->GetName(), AMember));
+TRef<IMemberEditor> EditorOn(const TRef<IMemberInfo>& AMember, TObject* AObject, const TRef<IDesigner>& ADesigner,
+                             TSubEditorClasses& AClasses) {
+  const TMemberEditorClass editorClass = AClasses.Of(AMember, AObject);
+  if (!editorClass) return nullptr;
+  return TRef<IMemberEditor>(editorClass.Create(AObject, nullptr, ADesigner, nullptr, AMember->GetName(), AMember));
 }
 
 // The same, when it is a property editor that shows.
 TRef<IPropertyEditor> VisiblePropertyEditorOn(const TRef<IMemberInfo>& AMember, TObject* AObject,
-                                              const TRef<IDesigner>& ADesigner) {
+                                              const TRef<IDesigner>& ADesigner, TSubEditorClasses& AClasses) {
   TRef<IPropertyEditor> editor;
-  const TRef<IMemberEditor> built = EditorOn(AMember, AObject, ADesigner);
+  const TRef<IMemberEditor> built = EditorOn(AMember, AObject, ADesigner, AClasses);
   if (!built || !built->GetIsVisible() || !Supports(built, editor)) return nullptr;
   return editor;
 }
@@ -150,9 +170,10 @@ String TClassPropertyEditor::SummaryOf(TObject* AObject) {
   if (!walk.Entered() || !GetSubMembers(members, true)) return String();
   String text;
   Boolean first = true;
+  TSubEditorClasses classes;
   for (const TRef<IMemberInfo>& member : members) {
     if (member->GetVisibility() != mvPublished) continue;
-    const TRef<IPropertyEditor> editor = VisiblePropertyEditorOn(member, AObject, FDesigner);
+    const TRef<IPropertyEditor> editor = VisiblePropertyEditorOn(member, AObject, FDesigner, classes);
     String nested;
     if (!editor || !editor->GetDisplayNested(nested, ListOf(AObject))) continue;
     text += (first ? "" : ",") + nested;
@@ -171,14 +192,14 @@ TRef<IStringArrayList> TClassPropertyEditor::GetStringValues(const TRef<IObjectA
   return result;
 }
 
-Boolean TClassPropertyEditor::IsDefaultObject(TObject* AObject) {
+Boolean TClassPropertyEditor::IsDefaultObject(TObject* AObject, TSubEditorClasses& AClasses) {
   if (!AObject) return true;
   if (FStringAccessProperty) return FStringAccessProperty->GetIsDefault(AObject, true);
   TRef<IMembersInfo> members;
   if (!GetSubMembers(members, true)) return true;
   for (const TRef<IMemberInfo>& member : members) {
     if (member->GetVisibility() != mvPublished) continue;
-    const TRef<IPropertyEditor> editor = VisiblePropertyEditorOn(member, AObject, FDesigner);
+    const TRef<IPropertyEditor> editor = VisiblePropertyEditorOn(member, AObject, FDesigner, AClasses);
     if (editor && !editor->GetIsDefaults(ListOf(AObject))->GetItem(0)) return false;
   }
   return true;
@@ -187,7 +208,8 @@ Boolean TClassPropertyEditor::IsDefaultObject(TObject* AObject) {
 TRef<IArrayList<Boolean>> TClassPropertyEditor::GetIsDefaults(const TRef<IObjectArrayList>& AObjectsList) {
   if (FIsDefaults) return FIsDefaults;
   const TRef<IArrayList<Boolean>> result = New<TArrayList<Boolean>>();
-  for (const TValue& value : GetInstanceValues(AObjectsList)) result->Add(IsDefaultObject(value.AsObject()));
+  TSubEditorClasses classes;
+  for (const TValue& value : GetInstanceValues(AObjectsList)) result->Add(IsDefaultObject(value.AsObject(), classes));
   FIsDefaults = result;
   return result;
 }
@@ -222,8 +244,9 @@ Boolean TClassPropertyEditor::GetIsVisible() {
   if (!GetSubMembers(members, true)) return false;
   TObject* object = FirstValueObject();
   if (!object) return TMemberEditor::GetIsVisible();
+  TSubEditorClasses classes;
   for (const TRef<IMemberInfo>& member : members)
-    if (const TRef<IMemberEditor> editor = EditorOn(member, object, FDesigner); editor && editor->GetIsVisible())
+    if (const TRef<IMemberEditor> editor = EditorOn(member, object, FDesigner, classes); editor && editor->GetIsVisible())
       return TMemberEditor::GetIsVisible();
   return false;
 }

@@ -7,6 +7,8 @@
 
 namespace Tarvo {
 
+class TSubEditorClasses;
+
 class TARVO_API TClassPropertyEditor : public TSinglePropertyEditor {
   TARVO_CLASS(TClassPropertyEditor, TSinglePropertyEditor)
 public:
@@ -45,7 +47,7 @@ protected:
 
 private:
   String SummaryOf(TObject* AObject);
-  Boolean IsDefaultObject(TObject* AObject);
+  Boolean IsDefaultObject(TObject* AObject, TSubEditorClasses& AClasses);
 
   TRef<IArrayList<Boolean>> FIsDefaults;
   TRef<IStringArrayList> FStringValues;
