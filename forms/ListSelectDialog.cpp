@@ -7,6 +7,7 @@
 
 #include <cmath>
 
+#include "forms/SelectDialogLayout.h"
 #include "platform/ModalSeam.h"
 
 namespace Tarvo {
@@ -85,20 +86,7 @@ TTarvoListSelectDialogForm::TTarvoListSelectDialogForm(QWidget* AParent)
   ListBox->setItemDelegate(new TListSelectItemDelegate(this));
   ListBox->setUniformItemSizes(true);
 
-  BottomPanel->setFixedHeight(41);
-  OKButton->setDefault(true);
-  auto* bottom = new QHBoxLayout(BottomPanel);
-  bottom->setContentsMargins(8, 8, 8, 8);
-  bottom->addStretch();
-  bottom->addWidget(OKButton);
-  bottom->addWidget(CancelButton);
-
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
-  layout->addWidget(TopPanel);
-  layout->addWidget(ListBox, 1);
-  layout->addWidget(BottomPanel);
+  LayOutSelectDialog(*this, TopPanel, ListBox, BottomPanel, OKButton, CancelButton);
 
   connect(FilterEdit, &QLineEdit::textChanged, this, [this] { FilterEditChange(); });
   connect(ClearButton, &QToolButton::clicked, this, [this] { ClearButtonClick(); });

@@ -11,6 +11,7 @@
 #include <set>
 
 #include "design/MemberFilter.h"
+#include "forms/SelectDialogLayout.h"
 #include "platform/GXGraphics.h"
 #include "platform/ModalSeam.h"
 
@@ -121,21 +122,8 @@ TTarvoTreeSelectDialogForm::TTarvoTreeSelectDialogForm(QWidget* AParent)
   TreeView->setPalette(palette);
   TreeView->viewport()->installEventFilter(this);
 
-  BottomPanel->setFixedHeight(41);
-  OKButton->setDefault(true);
   OKButton->setEnabled(false);
-  auto* bottom = new QHBoxLayout(BottomPanel);
-  bottom->setContentsMargins(8, 8, 8, 8);
-  bottom->addStretch();
-  bottom->addWidget(OKButton);
-  bottom->addWidget(CancelButton);
-
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
-  layout->addWidget(TopPanel);
-  layout->addWidget(TreeView, 1);
-  layout->addWidget(BottomPanel);
+  LayOutSelectDialog(*this, TopPanel, TreeView, BottomPanel, OKButton, CancelButton);
 
   connect(FilterEdit, &QLineEdit::textChanged, this, [this] { FilterEditChange(); });
   connect(FilterSpeedButton, &QToolButton::clicked, this, [this] { FilterSpeedButtonClick(); });
