@@ -1,6 +1,7 @@
 #pragma once
 // Shared pieces of the container tests: an element that counts the handlers installed on it, a
 // notification counter, walks that collect what an enumerator yields, and argument checks.
+// The lists of int that several of the tests make are compiled once, in ListInstances.cpp.
 
 #include <gtest/gtest.h>
 
@@ -61,3 +62,8 @@ template <class E = EAssertionFailed> void ExpectAssertions(std::initializer_lis
 }
 
 } // namespace Tarvo::Testing
+
+namespace Tarvo {
+TARVO_ARRAY_LIST_INSTANCES(extern, int)
+TARVO_LINKED_LIST_INSTANCES(extern, int)
+} // namespace Tarvo

@@ -427,11 +427,5 @@ TEST_F(SinglePropertyEditorTest, SubclassSetupRunsOnceAndListenersHearRefreshInO
   EXPECT_EQ(GSpeLog, (TLog{"init Level", "refresh a", "refresh b", "refresh b"}));
 }
 
-// The list of editors answers its own interface and is still an array list underneath.
-TEST(PropertyEditorsTest, ListOfEditorsAnswersItsOwnInterface) {
-  const TRef<IArrayList<TRef<IPropertyEditor>>> list = New<TPropertyEditors>();
-  EXPECT_TRUE(Supports<IPropertyEditors>(list) && Supports<IList>(list));
-}
-
 } // namespace
 } // namespace Tarvo

@@ -90,18 +90,12 @@ struct TMemberRow {
 TEST_F(SamplesTest, PublishedMembersHaveTheirTypesAndStartAtTheirDefaults) {
   const TMemberRow rows[] = {{"an enumeration", "TSignalGenerator", "Waveform", tkEnumeration, "TWaveform", "wfSine"},
                              {"a double", "TSignalGenerator", "Frequency", tkFloat, "Double", "440"},
-
                              {"a cardinal", "TSignalGenerator", "SampleRate", tkInteger, "Cardinal", "48000"},
-
                              {"a set", "TSignalFilter", "Options", tkSet, "TFilterOptions", "[]"},
-
                              {"an ansi character", "TSignalFilter", "Separator", tkChar, "AnsiChar", ","},
                              {"a wide character", "TSignalFilter", "Symbol", tkWChar, "WideChar", "\u03BB"},
-
                              {"a wide string", "TSignalFilter", "Caption", tkWString, "WideString", ""},
-
                              {"a date", "TSignalFilter", "Designed", tkFloat, "TDate", "1899-12-30"},
-
                              {"a component reference", "TSignalFilter", "Input", tkClass, "TSignalGenerator", "nil"},
                              {"a reference to any source", "TSignalScope", "Source", tkClass, "TComponent", "nil"},
                              {"a colour", "TSignalScope", "TraceColor", tkInteger, "TColor", "65280"}};

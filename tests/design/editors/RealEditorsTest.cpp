@@ -118,6 +118,8 @@ TEST_F(RealEditorsTest, PartsWriteEachObjectsOwnDate) {
   FSecond.FStamp = EncodeDateTime(2023, 2, 10, 9, 0, 0, 0);
   const TRef<TDateTimePropertyEditor> stamp = Editor<TDateTimePropertyEditor>("Stamp"); // outlives its parts
   const TRef<IPropertyEditors> parts = stamp->GetPropertyEditors();
+  // A list of editors answers its own interface and is still an untyped list underneath.
+  EXPECT_TRUE(Supports<IList>(parts) && Supports<IPropertyEditors>(QueryAs<IList>(parts)));
   std::vector<String> names;
   for (const TRef<IPropertyEditor>& part : parts) names.push_back(part->GetName());
   EXPECT_EQ(names, (std::vector<String>{"Year", "Month", "Day", "Hour", "Minute", "Second", "Millisecond"}));
