@@ -190,21 +190,13 @@ TRef<IStringArrayList> TInjectedPropertyEditorDropDownCategorizedList::GetString
   return result;
 }
 
-TInjectedPropertyEditorDropDownListByMethod::TInjectedPropertyEditorDropDownListByMethod(
-    TSinglePropertyEditor* AOwner, TObject* AInstance, TRef<IMethodInfo> AMethod, Boolean ASort)
-    : TInjectedPropertyEditorDropDownList(AOwner, ASort), FInstance(AInstance), FMethod(std::move(AMethod)) {}
-
-void TInjectedPropertyEditorDropDownListByMethod::AddMethodValues(const TRef<IStringArrayList>& AList) {
-  AddFromMethod<String>(FInstance, FMethod, AList);
+template <class TList, class TItem>
+void TInjectedListByMethod<TList, TItem>::AddMethodValues(const TRef<IArrayList<TItem>>& AList) {
+  AddFromMethod<TItem>(FInstance, FMethod, AList);
 }
 
-TInjectedPropertyEditorDropDownCategorizedListByMethod::TInjectedPropertyEditorDropDownCategorizedListByMethod(
-    TSinglePropertyEditor* AOwner, TObject* AInstance, TRef<IMethodInfo> AMethod, Boolean ASort)
-    : TInjectedPropertyEditorDropDownCategorizedList(AOwner, ASort), FInstance(AInstance), FMethod(std::move(AMethod)) {}
-
-void TInjectedPropertyEditorDropDownCategorizedListByMethod::AddMethodValues(const TRef<ICategorizedValueList>& AList) {
-  AddFromMethod<TCategorizedValue>(FInstance, FMethod, AList);
-}
+template class TInjectedListByMethod<TInjectedPropertyEditorDropDownList, String>;
+template class TInjectedListByMethod<TInjectedPropertyEditorDropDownCategorizedList, TCategorizedValue>;
 
 // ---- Dialogs ----
 

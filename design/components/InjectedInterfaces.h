@@ -64,33 +64,26 @@ private:
 };
 
 // A value-source method of the selected object: a function answering the list, or a procedure
-// taking the list to fill.
-class TARVO_API TInjectedPropertyEditorDropDownListByMethod : public TInjectedPropertyEditorDropDownList {
+// taking the list to fill. TList is one of the two lists above, TItem the item of its list.
+template <class TList, class TItem> class TInjectedListByMethod : public TList {
 public:
-  TInjectedPropertyEditorDropDownListByMethod(TSinglePropertyEditor* AOwner, TObject* AInstance,
-                                              TRef<IMethodInfo> AMethod, Boolean ASort);
+  TInjectedListByMethod(TSinglePropertyEditor* AOwner, TObject* AInstance, TRef<IMethodInfo> AMethod, Boolean ASort)
+      : TList(AOwner, ASort), FInstance(AInstance), FMethod(std::move(AMethod)) {}
 
 protected:
-  void AddMethodValues(const TRef<IStringArrayList>& AList) override;
+  void AddMethodValues(const TRef<IArrayList<TItem>>& AList) override;
 
 private:
   TObject* FInstance;
   TRef<IMethodInfo> FMethod;
 };
 
-class TARVO_API TInjectedPropertyEditorDropDownCategorizedListByMethod
-    : public TInjectedPropertyEditorDropDownCategorizedList {
-public:
-  TInjectedPropertyEditorDropDownCategorizedListByMethod(TSinglePropertyEditor* AOwner, TObject* AInstance,
-                                                         TRef<IMethodInfo> AMethod, Boolean ASort);
-
-protected:
-  void AddMethodValues(const TRef<ICategorizedValueList>& AList) override;
-
-private:
-  TObject* FInstance;
-  TRef<IMethodInfo> FMethod;
-};
+// Both are compiled once, in the source.
+using TInjectedPropertyEditorDropDownListByMethod = TInjectedListByMethod<TInjectedPropertyEditorDropDownList, String>;
+using TInjectedPropertyEditorDropDownCategorizedListByMethod =
+    TInjectedListByMethod<TInjectedPropertyEditorDropDownCategorizedList, TCategorizedValue>;
+extern template class TInjectedListByMethod<TInjectedPropertyEditorDropDownList, String>;
+extern template class TInjectedListByMethod<TInjectedPropertyEditorDropDownCategorizedList, TCategorizedValue>;
 
 // The list select dialog over the editor's list; the pick is written through the editor.
 class TARVO_API TInjectedPropertyEditorDialog : public TImplements<TInjectedInterface, IPropertyEditorDialog> {
