@@ -76,19 +76,6 @@ TEST(ArrayListTest, FindOrAddMakesAnElementOnlyWhenNoneMatches) {
   EXPECT_EQ(Contents(list), (V{1, 2, 100, 4, 5}));
 }
 
-// Missing arguments are refused and leave the list as it was.
-TEST(ArrayListTest, NilArgumentsAreAssertionFailures) {
-  IntList list = Make({1});
-  ExpectAssertions({{"Append", [&] { list->Append(TRef<IEnumerable<int>>()); }},
-                    {"Assign", [&] { list->Assign(nullptr); }},
-                    {"RemoveOne by predicate", [&] { list->RemoveOne(nullptr); }},
-                    {"FindOrAdd's maker", [&] { list->FindOrAdd(IsEven, TFunc<int>()); }},
-                    {"CreateCopy", [] { TArrayList<int>::CreateCopy(nullptr); }},
-                    {"an enumerator's item", [] { New<TBasicListEnumerator<int>>([] { return 1; }, nullptr); }},
-                    {"a reverse host's list", [] { New<TReverseEnumeratorHost<int>>(nullptr); }}});
-  EXPECT_EQ(Contents(list), (V{1}));
-}
-
 // What each operation does to {3, 2, 1} and how often it notifies.
 TEST(ArrayListTest, OperationsAndTheirNotifications) {
   const auto appendTwo = [](const IntList& L) { L->Append(V{8, 9}); };

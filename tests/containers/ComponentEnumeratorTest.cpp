@@ -53,7 +53,6 @@ private:
 };
 
 using TForward = TComponentEnumerator<TNode*>;
-using TReverse = TComponentReverseEnumerator<TNode*>;
 using TForwardRecursive = TComponentEnumeratorRecursive<TNode*>;
 using TReverseRecursive = TComponentReverseEnumeratorRecursive<TNode*>;
 using TNodeList = std::shared_ptr<TNames>;
@@ -112,14 +111,6 @@ TEST_F(ComponentEnumeratorTest, ResetInsideASubtreeStartsOverAndLostChildrenEndA
   Root.Children.resize(1);
   EXPECT_FALSE(walk->MoveNext());
   EXPECT_FALSE(walk->MoveNext());
-}
-
-// Missing functions are refused when a walk, filter or query is made.
-TEST_F(ComponentEnumeratorTest, NilArgumentsAreAssertionFailures) {
-  ExpectAssertions({{"a filter's predicate", [&] { New<TFilterEnumerator<TNode*>>(Make<TForward>(&Root), nullptr); }},
-                    {"a walk's count", [&] { New<TForwardRecursive>(&Root, nullptr, GetItem); }},
-                    {"a walk's item", [&] { New<TReverse>(&Root, GetCount, nullptr); }},
-                    {"a query's filter", [&] { QueryChildren(&Root, false, false, nullptr); }}});
 }
 
 // A query reruns over the tree as it stands and hands back its root.

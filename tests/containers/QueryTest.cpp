@@ -162,26 +162,5 @@ TEST(QueryTest, FluentOperationsHandBackTheSource) {
   EXPECT_EQ(source->Walks, walks);
 }
 
-// Missing functions are refused at the call, by the query and by its constructors.
-TEST(QueryTest, NilArgumentsAreAssertionFailures) {
-  const auto query = QueryOf(New<TInts>(std::vector<Integer>{1}));
-  IQuery<Integer>& asked = *query;
-  const TConstFunc<Integer, Boolean> noPredicate;
-  Integer item = 0;
-  using TIntContainerQuery = TContainerQuery<TIntsRef, TIntsRef, Integer>;
-  const auto walk = [] { return Ints({})->GetEnumerator(); };
-  ExpectAssertions({{"Equals", [&] { query->Equals(nullptr); }},
-                    {"the Boolean Find", [&] { asked.Find(noPredicate, item); }},
-                    {"Find's procedure", [&] { asked.Find(IsEvenItem, TConstProc<Integer>()); }},
-                    {"Filter", [&] { query->Filter(noPredicate); }},
-                    {"ForEach with indices", [&] { query->ForEach(TConstProc<Integer, Integer>()); }},
-                    {"Do", [&] { query->Do(nullptr); }},
-                    {"a query's walk", [] { New<TQuery<Integer>>(nullptr); }},
-                    {"a container query's adder", [&] {
-                       New<TIntContainerQuery>(
-                           walk, [] { return New<TInts>(); }, nullptr, nullptr);
-                     }}});
-}
-
 } // namespace
 } // namespace Tarvo::Testing

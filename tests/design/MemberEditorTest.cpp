@@ -3,7 +3,6 @@
 #include "design/MemberEditor.h"
 #include "design/editors/BasicEditors.h"
 #include "reflection/Publish.h"
-#include "reflection/RowAttributes.h"
 #include "reflection/RttiTypes.h"
 #include "tests/design/EditorTestSupport.h"
 
@@ -14,7 +13,6 @@ class TEdTestGadget : public TObject {
 public:
   explicit TEdTestGadget(Integer AWidth = 0) : FWidth(AWidth) {}
   Integer FWidth;
-  String FTitle;
   void Reset() {}
   String Join(Integer, const String&) { return String(); }
   Integer Measure() { return 0; }
@@ -26,7 +24,6 @@ TARVO_IMPLEMENT_CLASS(TEdTestGadget)
 TARVO_IMPLEMENT_CLASS(TEdTestOtherGadget)
 TARVO_PUBLISH(TEdTestGadget) {
   Property("Width", &TEdTestGadget::FWidth, &TEdTestGadget::FWidth);
-  Property("Title", &TEdTestGadget::FTitle, &TEdTestGadget::FTitle).Attr<NameAttribute>("Heading");
   Public();
   Method("Reset", &TEdTestGadget::Reset);
   Method("Join", &TEdTestGadget::Join, {"ACount", "ASeparator"});
@@ -94,14 +91,6 @@ TEST_F(MemberEditorTest, OwnerObjectsComeFromTheListTheOwnerOrTheSelection) {
   EXPECT_EQ(free->GetOwnerObject(), &FFirst);
 }
 
-// The display name comes from the name attribute, else the member's name; a row bound to no named
-// member shows its name with no member lookup at all.
-TEST_F(MemberEditorTest, DisplayNameFromTheNameAttribute) {
-  EXPECT_EQ(Editor("Title")->GetDisplayName(), "Heading");
-  EXPECT_EQ(Editor("Width")->GetDisplayName(), "Width");
-  EXPECT_EQ(Editor("")->GetDisplayName(), "");
-}
-
 // The parameter text of a method row, names unknown shown as question marks.
 TEST_F(MemberEditorTest, FunctionParameterStrings) {
   const struct {
@@ -113,19 +102,6 @@ TEST_F(MemberEditorTest, FunctionParameterStrings) {
   Testing::ForEachRow(rows, [this](const auto& r) {
     EXPECT_EQ(Editor<TMethodEditor>(r.Method, nullptr, Method(r.Method))->GetFunctionParamString(), r.Text);
   });
-}
-
-// A plain row is visible, has no sub-members and one stored answer per object; the hidden editor
-// is invisible, read-only and not expandable.
-TEST_F(MemberEditorTest, StockAnswersAndTheHiddenEditor) {
-  const TRef<TMemberEditor> plain = Editor("Width");
-  const TRef<THiddenEditor> hidden = Editor<THiddenEditor>("Width");
-  EXPECT_TRUE(plain->GetIsVisible());
-  EXPECT_TRUE(!hidden->GetIsVisible() && hidden->GetIsReadOnly() && !hidden->GetIsExpandable());
-  TRef<IMembersInfo> sub = New<TMembersInfo>();
-  EXPECT_FALSE(plain->GetSubMembers(sub, true));
-  EXPECT_FALSE(sub);
-  EXPECT_EQ(plain->GetIsDefaultsByStored(nullptr)->GetCount(), 2);
 }
 
 // Lifetime: an editor is made unreferenced and ends with its last reference.

@@ -44,17 +44,7 @@ protected:
   const TRef<ITypeInfo> FInteger = TTypeInfoHelper::TypeInfo(&TypeInfo_Integer);
 };
 
-// The heading row of a category: its name, expandable, with no member behind it.
-TEST_F(DesignCategoriesTest, AHeadingRowNamesItsCategory) {
-  const auto heading = New<TCategoryEditor>(GMemberCategories->GetCategory(TVisualMemberCategory::ClassInfo()));
-  EXPECT_EQ(heading->GetName(), "Visual");
-  EXPECT_TRUE(heading->GetIsExpandable());
-  TRef<IGXBitmap> image;
-  EXPECT_FALSE(heading->GetImage(image));
-}
-
 TEST_F(DesignCategoriesTest, TheStartUpTable) {
-  EXPECT_EQ(Names(TControl::ClassInfo(), "Enabled", TypeInfo<Boolean>()), (std::vector<String>{"Visual", "Behavior"}));
   EXPECT_EQ(Names(TControl::ClassInfo(), "left", TypeInfo<Integer>()), (std::vector<String>{"Visual", "Layout"}));
   EXPECT_EQ(Names(TComponent::ClassInfo(), "Left", TypeInfo<Integer>()), std::vector<String>{});
   EXPECT_EQ(Names(nullptr, "Pen", TypeInfo<TPen*>()), std::vector<String>{"Visual"});

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "reflection/ClassNames.h"
 #include "reflection/ComponentRegistration.h"
 #include "reflection/DynamicElements.h"
 #include "reflection/MemberCategories.h"
@@ -133,14 +132,6 @@ TEST(DesignComponentsTest, RegistrationProcedureReadsMemberCategories) {
   RegisterComponents("Sliders", {TDesignTestSlider::ClassInfo()});
   RemoveComponentRegistrationProcedure(key);
   EXPECT_EQ(found, (TEvents{"Position:Layout", "Position:Input", "Pen:Visual"}));
-}
-
-// The base of a class name drops a leading T only.
-TEST(DesignComponentsTest, ClassNameBaseDropsTheLeadingT) {
-  TObject plain;
-  EXPECT_EQ(GetClassNameBase(DesignTestWidget::ClassInfo()), "DesignTestWidget");
-  EXPECT_EQ(GetClassNameBase(&plain), "Object");
-  EXPECT_EQ(GetClassNameBase(static_cast<TObject*>(nullptr)), "");
 }
 
 // Dynamic elements for a base: its ancestors' elements it can hold and its own, once each, in registration order.

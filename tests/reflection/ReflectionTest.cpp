@@ -206,18 +206,12 @@ TEST(ReflectionTest, DefaultsStoredFlagsAndLimits) {
   EXPECT_FALSE(Supports<IValueLimitsInfo>(name));
 }
 
-// Methods give their parameter texts and run with checked arguments.
+// Methods run with checked arguments (their parameter texts are the method rows' test).
 TEST(ReflectionTest, MethodsInvokeWithTheirParameterText) {
   TTestMachine machine;
   const TRef<IMethodInfo> describe = MemberOf<IMethodInfo>(&machine, "Describe");
   const TRef<IMethodInfo> stop = MemberOf<IMethodInfo>(&machine, "Stop");
   ASSERT_TRUE(describe && stop);
-  EXPECT_EQ(describe->GetMethodKind(), mkFunction);
-  EXPECT_EQ(stop->GetMethodKind(), mkProcedure);
-  TNames texts;
-  for (const TRef<IParameterInfo>& parameter : describe->GetParameters())
-    texts.push_back(parameter->GetParameterText());
-  EXPECT_EQ(texts, (TNames{"ATimes: Integer", "AWhat: string"}));
   EXPECT_EQ(describe->Invoke(&machine, {TValue(Int64(2)), TValue("gear")}).AsString(), "gear x2");
   stop->Invoke(&machine, {});
   EXPECT_EQ(machine.FSpeed, 0);
