@@ -19,8 +19,9 @@ layers=(
   collections
   graphics
   package
+  host/grid
   host/headless
-  "host/grid host/designer"
+  host/designer
   host
 )
 

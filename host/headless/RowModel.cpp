@@ -1,57 +1,18 @@
 #include "host/headless/RowModel.h"
 
 #include <algorithm>
-#include <unordered_map>
-#include <unordered_set>
 
-#include "design/MemberCategoryRegistry.h"
 #include "design/Registry.h"
 #include "design/editors/BasicEditors.h"
 #include "design/paint/EditorPaint.h"
 #include "design/paint/PropertyRange.h"
+#include "host/grid/SelectionMembers.h"
 #include "reflection/RttiTypes.h"
 #include "rtl/SysUtils.h"
 
 namespace Tarvo {
 
 namespace {
-
-// The public and published members of the first object whose names every other selected object
-// has as well; protected and private ones are no one's business in an inspector, whatever editor
-// the package would give them. Objects of one class are looked at once.
-std::vector<TRef<IMemberInfo>> CommonMembers(const TRef<IObjectArrayList>& ASelection) {
-  std::vector<TRef<IMemberInfo>> result;
-  if (ASelection->GetCount() == 0) return result;
-  for (const TRef<IMemberInfo>& member :
-       TRttiObjectHelper::TypeInfo(ASelection->GetItem(0), true)->GetMembers(mvsPublicAndPublished))
-    result.push_back(member);
-  std::unordered_set<TClass> seen{ASelection->GetItem(0)->ClassType()};
-  for (TObject* object : ASelection) {
-    if (!seen.insert(object->ClassType()).second) continue;
-    std::unordered_set<String> names;
-    for (const TRef<IMemberInfo>& member : TRttiObjectHelper::TypeInfo(object, true)->GetAllMembers())
-      names.insert(member->GetName());
-    std::erase_if(result, [&](const TRef<IMemberInfo>& AMember) { return !names.contains(AMember->GetName()); });
-  }
-  return result;
-}
-
-// The kind a member counts as for its categories.
-TMemberKind KindOf(const TRef<IMemberInfo>& AMember) {
-  if (Supports<IMethodInfo>(AMember)) return mkMethod;
-  if (Supports<IIndexedPropertyInfo>(AMember)) return mkIndexedProperty;
-  if (Supports<IFieldInfo>(AMember)) return mkField;
-  const TRef<ITypeInfo> type = AMember->GetTypeInfo();
-  return type && type->GetTypeKind() == tkMethod ? mkEvent : mkSingleProperty;
-}
-
-// A row marked as expandable that would open on nothing (a reference to a component) is not
-// offered as one.
-Boolean HasSubRows(const TRef<IMemberEditor>& AEditor) {
-  if (Supports<ISubPropertyEditors>(AEditor)) return true;
-  TRef<IMembersInfo> members;
-  return AEditor->GetSubMembers(members, true) && members->GetCount() > 0;
-}
 
 String JoinPath(const String& AParentPath, const String& AName) {
   return AParentPath.empty() ? AName : AParentPath + "." + AName;
@@ -60,16 +21,9 @@ String JoinPath(const String& AParentPath, const String& AName) {
 } // namespace
 
 void SortRows(std::vector<TInspectorRow>& ARows) {
-  std::vector<std::size_t> places;
-  std::vector<TInspectorRow> sortable;
-  for (std::size_t i = 0; i < ARows.size(); ++i)
-    if (ARows[i].Editor->GetIsSortable()) {
-      places.push_back(i);
-      sortable.push_back(std::move(ARows[i]));
-    }
-  std::stable_sort(sortable.begin(), sortable.end(),
-                   [](const TInspectorRow& A, const TInspectorRow& B) { return CompareText(A.Name, B.Name) < 0; });
-  for (std::size_t i = 0; i < places.size(); ++i) ARows[places[i]] = std::move(sortable[i]);
+  SortRowsByName(
+      ARows, [](const TInspectorRow& ARow) { return ARow.Editor->GetIsSortable(); },
+      [](const TInspectorRow& ARow) -> const String& { return ARow.Name; });
 }
 
 TObject* TRowModel::FirstSelected() {
@@ -102,12 +56,8 @@ void TRowModel::ReadRow(TInspectorRow& ARow, const String& AParentPath) {
   if (TRef<IPropertySuggestedRange> range; Supports(editor, range))
     ARow.SuggestedRange = TInspectorRange{range->GetSuggestedMinValue(), range->GetSuggestedMaxValue()};
   if (AParentPath.empty())
-    if (TObject* first = FirstSelected(); first && editor->GetFirstMember()) {
-      const TRef<IMemberInfo> member = editor->GetFirstMember();
-      for (const auto& category :
-           GetMemberCategories(KindOf(member), first->ClassType(), member->GetName(), member->GetTypeInfo()))
-        ARow.Categories.push_back(category->GetCategoryName());
-    }
+    if (TObject* first = FirstSelected(); first && editor->GetFirstMember())
+      ARow.Categories = CategoryNamesOf(editor->GetFirstMember(), first->ClassType());
   if (TRef<IPropertyEditor> property; Supports(editor, property)) {
     ARow.Value = property->GetIsWriteOnly() ? String() : property->GetDisplayValue(nullptr);
     ARow.IsDefault = property->GetIsAllDefault();
