@@ -17,11 +17,13 @@ Tarvo::TInspectPaths BundledPaths() {
   return {(directory / "libtarvo_samples.so").string(), (directory / "designs" / "sample.json").string()};
 }
 
-// Qt's notice that it picked a runtime directory itself says nothing to a user of a tool that
-// needs no session; everything else Qt says is passed on.
+// Qt's notices that it picked a runtime directory itself, and that the offscreen platform can't
+// do what a window on a screen could, say nothing to a user of a tool that needs no screen;
+// everything else Qt says is passed on.
 QtMessageHandler GQtMessages = nullptr;
 void FilterQtMessages(QtMsgType AType, const QMessageLogContext& AContext, const QString& AMessage) {
-  if (!AMessage.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+  if (!AMessage.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")) &&
+      !AMessage.startsWith(QLatin1String("This plugin does not support")))
     GQtMessages(AType, AContext, AMessage);
 }
 
@@ -34,15 +36,15 @@ int main(int argc, char** argv) {
       std::cout << Tarvo::InspectUsage;
       return 0;
     }
-    // A list of values may come from the platform (the machine's fonts), and a dialog is a
-    // window: both need an application object, though no screen.
+    // A list of values may come from the platform (the machine's fonts), and a dialog and a
+    // picture are windows: they need an application object, though no screen.
     const auto runsDialog = [&] {
       for (const Tarvo::TInspectEdit& edit : options.Edits)
         if (edit.Kind == Tarvo::TInspectEdit::ekDialog) return true;
       return false;
     };
     std::optional<QApplication> application;
-    if (options.Values || runsDialog()) {
+    if (options.Values || !options.Png.empty() || runsDialog()) {
       if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
       GQtMessages = qInstallMessageHandler(FilterQtMessages);
       application.emplace(argc, argv);

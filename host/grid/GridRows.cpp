@@ -200,6 +200,16 @@ void TGridRows::Collapse(TGridRow& ARow) {
   else ExpandedPaths().erase(path);
 }
 
+void TGridRows::ExpandAll(Integer ADepth) { ExpandDown(FTop, ADepth); }
+
+void TGridRows::ExpandDown(std::vector<std::unique_ptr<TGridRow>>& ARows, Integer ADepth) {
+  if (ADepth <= 0) return;
+  for (const auto& row : ARows) {
+    Expand(*row);
+    if (row->Expanded) ExpandDown(row->Children, ADepth - 1);
+  }
+}
+
 Boolean TGridRows::Matches(TGridRow& ARow) {
   if (!Prepare(ARow)) return false;
   if (TRef<IMemberEditorSearch> search; Supports(ARow.Editor, search)) return search->MatchesSearch(FSearch);

@@ -72,6 +72,9 @@ public:
   Boolean Prepare(TGridRow& ARow);
   void Expand(TGridRow& ARow);
   void Collapse(TGridRow& ARow);
+  // Expands every expandable row down to ADepth levels: a component reference can lead back to
+  // where it started.
+  void ExpandAll(Integer ADepth);
   // The values may have changed: every row reads its texts again when next prepared.
   void ValuesChanged() { ++FGeneration; }
   // The row at a dotted path, names compared without regard to case; the rows on the way are
@@ -90,6 +93,7 @@ private:
   // Adds the shown rows of ARow's subtree; true when any was added.
   Boolean AddShown(TGridRow& ARow, Boolean AAboveMatched, std::vector<TGridRow*>& AShown);
   void ReExpand(std::vector<std::unique_ptr<TGridRow>>& ARows);
+  void ExpandDown(std::vector<std::unique_ptr<TGridRow>>& ARows, Integer ADepth);
   std::unordered_set<String>& ExpandedPaths();
 
   TRef<IDesigner> FDesigner;

@@ -31,6 +31,10 @@ const char* const InspectUsage = "usage: tarvo-inspect [options]\n"
                                  "  --json                 print the rows as JSON: an array of row objects, a\n"
                                  "                         \"range\" and \"suggested_range\" [min, max] in those\n"
                                  "                         whose editor has them; with --values, an array of strings\n"
+                                 "  --png FILE             draw the grid of the rows (the list of --values) into\n"
+                                 "                         the PNG file FILE instead of printing them\n"
+                                 "  --width N              the picture's width in pixels (default 480)\n"
+                                 "  --palette light|dark   the picture's colours (default light)\n"
                                  "  --list-classes         print the registered component classes and their pages\n"
                                  "  --help                 print this text\n"
                                  "\n"
@@ -85,6 +89,15 @@ TInspectOptions ParseInspectOptions(const std::vector<String>& AArguments) {
     else if (option == "--values") {
       if (options.Values) throw EInspectError("--values may be given once");
       options.Values = argument();
+    } else if (option == "--png") options.Png = argument();
+    else if (option == "--width") {
+      const String& width = argument();
+      if (!TryStrToInt(width, options.Width) || options.Width < 100 || options.Width > 4000)
+        throw EInspectError("--width expects a number of pixels from 100 to 4000, not \"" + width + "\"");
+    } else if (option == "--palette") {
+      const String& palette = argument();
+      if (palette != "light" && palette != "dark") throw EInspectError("--palette expects light or dark, not \"" + palette + "\"");
+      options.DarkPalette = palette == "dark";
     } else if (option == "--json") options.Json = true;
     else if (option == "--list-classes") options.ListClasses = true;
     else if (option == "--help" || option == "-h") options.Help = true;

@@ -24,6 +24,9 @@ struct TInspectOptions {
   std::optional<String> Values; // the row whose list of values is printed instead of the rows
   String Filter;                // words every shown row must match; empty: all rows
   String Locale;                // numbers and dates as this locale writes them; empty: invariant
+  String Png;                   // the file the grid's picture goes to; empty: print text
+  Integer Width = 480;          // of the picture
+  Boolean DarkPalette = false;  // of the picture
   Boolean Categories = false;   // rows under their category headings
   Boolean ExpandAll = false;
   Boolean Json = false;

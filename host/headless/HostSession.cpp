@@ -4,13 +4,14 @@
 
 #include "design/MemberCategoryRegistry.h"
 #include "host/headless/DialogAnswer.h"
+#include "host/headless/GridPicture.h"
 #include "host/headless/HostDesigner.h"
+#include "host/headless/Modules.h"
 #include "host/headless/PackageScope.h"
 #include "host/headless/RowWriters.h"
 #include "platform/LocaleSettings.h"
 #include "platform/ModalSeam.h"
 #include "reflection/ComponentRegistration.h"
-#include "rtl/Module.h"
 #include "runtime/DesignFile.h"
 
 namespace Tarvo {
@@ -30,21 +31,6 @@ public:
 
 private:
   TFormatSettings FSaved;
-};
-
-// Unloads the modules it loaded, the last first.
-class TModulesScope {
-public:
-  TModulesScope() = default;
-  TModulesScope(const TModulesScope&) = delete;
-  TModulesScope& operator=(const TModulesScope&) = delete;
-  ~TModulesScope() {
-    for (auto module = FModules.rbegin(); module != FModules.rend(); ++module) UnloadModule(*module);
-  }
-  void Load(const String& APath) { FModules.push_back(LoadModule(APath)); }
-
-private:
-  std::vector<TModule*> FModules;
 };
 
 String ClassesText(Boolean AJson) {
@@ -124,6 +110,10 @@ String RunInspect(const TInspectOptions& AOptions, const TInspectPaths& APaths) 
     else if (edit.Kind == TInspectEdit::ekDialog) RunDialog(inspector, *designer, edit);
     else inspector.ResetValue(edit.Path);
     inspector.Refresh();
+  }
+  if (!AOptions.Png.empty()) {
+    WriteGridPicture(designer, AOptions);
+    return String();
   }
   for (const String& path : AOptions.Expand) inspector.Expand(inspector.Find(path));
   if (AOptions.ExpandAll) inspector.ExpandAll();

@@ -1,6 +1,8 @@
 // tarvo-inspect as a user runs it: its output, its JSON, and its answer to bad input.
 #include <gtest/gtest.h>
 
+#include <QImage>
+
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -129,6 +131,29 @@ TEST(HeadlessToolTest, ObjectRowsShowSummariesAndArePickedByNameOrInTheirDialogs
   EXPECT_EQ(RunTool("--select Filter1 --values Input").Out, "Generator1\nGenerator2\nFilter1\nScope1\nTriggerMark\nBaseline\n");
 }
 
+// The pictures are the grid widget's own drawing: its tests check the pixels; here, that the tool
+// writes them at the asked width, in the asked colours, and a list of values as its own picture.
+TEST(HeadlessToolTest, PngDrawsTheGridOrTheListAtTheAskedWidthInTheAskedPalette) {
+  const String light = testing::TempDir() + "grid-light.png", dark = testing::TempDir() + "grid-dark.png",
+               list = testing::TempDir() + "grid-list.png";
+  for (const String& arguments : {"--select Generator1 --png " + light, "--select Generator1 --palette dark --width 300 --png " + dark,
+                                  "--values Waveform --png " + list}) {
+    const TToolRun run = RunTool(arguments);
+    ASSERT_EQ(run.ExitCode, 0) << arguments << ": " << run.Err;
+    EXPECT_EQ(run.Out + run.Err, "") << arguments;
+  }
+  const QImage lightImage(QString::fromStdString(light)), darkImage(QString::fromStdString(dark)),
+      listImage(QString::fromStdString(list));
+  EXPECT_EQ(lightImage.width(), 480);
+  EXPECT_EQ(darkImage.width(), 300);
+  EXPECT_EQ(darkImage.height(), lightImage.height()) << "every row is drawn, whatever the width";
+  const QPoint valueColumn(lightImage.width() - 20, lightImage.height() - 5);
+  EXPECT_GT(lightImage.pixelColor(valueColumn).lightness(), 200);
+  EXPECT_LT(darkImage.pixelColor(QPoint(darkImage.width() - 20, darkImage.height() - 5)).lightness(), 60);
+  EXPECT_GT(listImage.height(), 4 * 10) << "five waveforms, each a line";
+  EXPECT_LT(listImage.height(), lightImage.height());
+}
+
 TEST(HeadlessToolTest, ListsTheRegisteredClassesWithTheirPages) {
   // The bundled module named again, twice: each load counts and is balanced by its unload.
   const String module = String(" --module ") + TARVO_SAMPLES_MODULE_PATH;
@@ -169,6 +194,8 @@ TEST(HeadlessToolTest, BadInputIsOneClearMessageWithExitCodeTwoAndNothingPrinted
        "SampleRate: \"1\" was not accepted"},
       {"answer without a dialog", "--answer x", "--answer follows the --dialog it answers"},
       {"row without a dialog", "--dialog Frequency", "row \"Frequency\" has no dialog"},
+      {"picture too narrow", "--png x.png --width 5", "--width expects a number of pixels from 100 to 4000, not \"5\""},
+      {"unknown palette", "--palette blue", "--palette expects light or dark, not \"blue\""},
       {"list asked twice", "--values SampleRate --values Waveform", "--values may be given once"},
       {"bad design", "--design " + design, design + ": Unknown property 'Pitch' of component 'G' (TSignalGenerator)"}};
   Testing::ForEachRow(cases, [](const auto& bad) {
