@@ -38,18 +38,21 @@ private:
   QPointer<TGridView> FView;
 };
 
-// The place a hosted control goes: over the row's value and below it.
+// The place a hosted control goes: a panel of the grid's over the row's value and below it. The
+// grid takes the panel away, and the control in it, when the row is left; a host the editor
+// closes after that is no longer the grid's current one and changes nothing.
 class TGridHost : public TImplements<TInterfacedObject, IPropertyEditorHost> {
 public:
-  explicit TGridHost(TGridView* AView) : FView(AView) {}
-  QWidget* GetParentControl() override { return FView ? FView->viewport() : nullptr; }
-  TIGXRect GetBounds() override { return FView ? TIGXRect::FromQRectF(FView->HostedRect()) : TIGXRect(); }
+  TGridHost(TGridView* AView, QWidget* APanel) : FView(AView), FPanel(APanel) {}
+  QWidget* GetParentControl() override { return FPanel; }
+  TIGXRect GetBounds() override { return FPanel ? TIGXRect(0, 0, FPanel->width(), FPanel->height()) : TIGXRect(); }
   void CloseHosted() override {
-    if (FView) FView->CloseHosted();
+    if (FView) FView->HostClosed(this);
   }
 
 private:
   QPointer<TGridView> FView;
+  QPointer<QWidget> FPanel;
 };
 
 // The height a hosted control gets: a month calendar fits.
@@ -89,7 +92,7 @@ void TGridView::SelectionChanged() {
   const String current = FCurrent ? FCurrent->Path() : String();
   CloseEdit();
   CloseInplace();
-  if (FHostedRow) CloseHosted();
+  CloseHosted();
   FCurrent = nullptr;
   ++FRebuilds;
   FRows.Rebuild();
@@ -113,9 +116,19 @@ void TGridView::EndEditFromEditor() {
   viewport()->update();
 }
 
+void TGridView::HostClosed(IPropertyEditorHost* AHost) {
+  if (!FHost || AHost != FHost.get()) return;
+  CloseHosted();
+}
+
 void TGridView::CloseHosted() {
-  FHostedRow = nullptr;
+  if (!FHost) return;
   FHost = nullptr;
+  if (FHostPanel) {
+    FHostPanel->hide();
+    FHostPanel->deleteLater(); // the control may be reporting the event that closes it
+  }
+  FHostedRow = nullptr;
   EndLongEdit();
   FRows.ValuesChanged();
   viewport()->update();
@@ -130,7 +143,7 @@ void TGridView::SetCurrent(TGridRow* ARow) {
   if (ARow == FCurrent) return;
   if (!CommitEdit()) return;
   CloseInplace();
-  if (FHostedRow) CloseHosted();
+  CloseHosted();
   FCurrent = ARow;
   if (FCurrent) {
     if (FRows.Prepare(*FCurrent)) FCurrent->Editor->GetInstance()->Activate();
@@ -165,8 +178,10 @@ void TGridView::StartEdit(const QString* AText) {
     BeginLongEdit(*FCurrent);
     const QRect value = ValueRect(*FCurrent);
     const int width = std::max(value.width(), HostedMinWidth);
-    FHostedRect = QRect(std::max(0, value.right() + 1 - width), value.top(), width, HostedHeight);
-    const TRef<IPropertyEditorHost> host = New<TGridHost>(this);
+    FHostPanel = new QWidget(viewport());
+    FHostPanel->setGeometry(std::max(0, value.right() + 1 - width), value.top(), width, HostedHeight);
+    FHostPanel->show();
+    const TRef<IPropertyEditorHost> host = New<TGridHost>(this, FHostPanel);
     FHost = host;
     hosted->ShowHosted(host);
     return;

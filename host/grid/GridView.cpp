@@ -154,12 +154,12 @@ void TGridView::PlaceControls() {
       FEdit->setGeometry(TGridPainter::EditRect(*FEditRow, value).adjusted(1, 1, 0, -1));
     }
   }
+  if (FHostPanel && FHostedRow) FHostPanel->move(FHostPanel->x(), RowRect(*FHostedRow).top());
   if (FForm && FFormRow) {
     const QRect formRow = RowRect(*FFormRow);
     FForm->UpdateRect(TIGXRect(0, formRow.bottom() + 1 + (FFormRow->RefusedMessage.empty() ? 0 : FMetrics.RowHeight),
                                viewport()->width(), FForm->GetHeight()));
   }
-  if (FHostedRow) FHostedRect = TGridPainter::ValueCell(RowRect(*FHostedRow), FNameWidth);
 }
 
 // ---- painting ----

@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "design/paint/InplaceForm.h"
+#include "design/paint/PropertyEditorHost.h"
 #include "host/grid/DropDownList.h"
 #include "host/grid/GridPainter.h"
 #include "host/grid/GridRows.h"
@@ -73,8 +74,11 @@ public:
   void SelectionChanged();
   void ValuesModified();
   void EndEditFromEditor();
-  void CloseHosted();
-  QRect HostedRect() const { return FHostedRect; }
+  // The host object the grid gave an editor says the control is done; a host the grid no longer
+  // uses is ignored.
+  void HostClosed(IPropertyEditorHost* AHost);
+  // Where the hosted control's panel lies in the viewport; empty when none is open.
+  QRect HostedRect() const { return FHostPanel ? FHostPanel->geometry() : QRect(); }
 
 signals:
   void Message(const QString& AText);
@@ -109,6 +113,8 @@ private:
   void CloseEdit();
   void OpenInplace();
   void CloseInplace();
+  // Takes the hosted control's panel away, and the control with it.
+  void CloseHosted();
   void BeginLongEdit(TGridRow& ARow);
   void EndLongEdit();
   TMemberSnapshot Snapshot(const TGridRow& ARow) const;
@@ -136,9 +142,9 @@ private:
   QPointer<TDropDownList> FList;
   TRef<IInplaceForm> FForm;
   TGridRow* FFormRow = nullptr;
-  TRef<IInterface> FHost; // the host object a hosted control sits in
+  TRef<IPropertyEditorHost> FHost; // the host object of the open hosted control
+  QPointer<QWidget> FHostPanel;
   TGridRow* FHostedRow = nullptr;
-  QRect FHostedRect;
   // The values before an in-place form or a hosted control opened: everything it writes until it
   // closes is one change.
   std::optional<TMemberSnapshot> FLongEditBefore;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QToolButton>
@@ -10,6 +11,8 @@
 
 #include "host/grid/GridView.h"
 #include "host/grid/InspectorGrid.h"
+#include "host/headless/DialogAnswer.h"
+#include "platform/ModalSeam.h"
 #include "tests/forms/FormTestSupport.h"
 #include "tests/host/SampleSession.h"
 
@@ -171,6 +174,43 @@ TEST_F(InspectorGridTest, CategoryViewPutsRowsUnderHeadingsAndSearchKeepsTheMatc
   ASSERT_FALSE(rows.empty());
   EXPECT_TRUE(rows.front()->IsHeading);
   EXPECT_EQ(rows.back()->Parent->Name, "Miscellaneous");
+}
+
+// The gestures that open more than a text: a form under the row, a control over it, a dialog.
+// Each is one undo step, however many writes it makes.
+TEST_F(InspectorGridTest, FormsOpenUnderTheirRowControlsOverItAndDialogsThroughTheButton) {
+  FSession.Select({"Scope1"});
+  ASSERT_NE(View().SelectPath("Channel"), nullptr);
+  QWidget* form = View().InplaceForm();
+  ASSERT_NE(form, nullptr) << "a ranged number gets its slider";
+  EXPECT_EQ(form->parentWidget(), View().viewport());
+  EXPECT_EQ(form->geometry().top(), View().RowRect(Row("Channel")).bottom() + 1);
+  const QPointer<QWidget> gone = form;
+  View().SelectPath("Caption");
+  EXPECT_TRUE(gone.isNull()) << "leaving the row takes the form away";
+
+  FSession.Select({"Generator1"});
+  ASSERT_NE(View().SelectPath("CalibrationDate"), nullptr);
+  Key(&View(), Qt::Key_Return);
+  EXPECT_EQ(View().LineEdit(), nullptr) << "a date shows its own control instead of the text edit";
+  const auto calendar = [&] { return View().viewport()->findChild<QCalendarWidget*>(); };
+  ASSERT_NE(calendar(), nullptr);
+  EXPECT_EQ(calendar()->size(), View().HostedRect().size()) << "the control fills the place the grid gives";
+  EXPECT_EQ(View().HostedRect().top(), View().RowRect(Row("CalibrationDate")).top());
+  View().SelectPath("Frequency");
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(calendar(), nullptr) << "leaving the row closes the control";
+
+  ASSERT_NE(View().SelectPath("Preset"), nullptr);
+  ASSERT_TRUE(View().DialogButton()->isVisible());
+  {
+    const TModalHandlerScope user([](QDialog& ADialog) { return AnswerDialog(ADialog, String("Calibration")); });
+    Click(View().DialogButton(), QPoint(4, 4));
+  }
+  EXPECT_EQ(Row("Preset").Value, "Calibration");
+  ASSERT_EQ(FGrid->UndoStack()->count(), 1);
+  FGrid->UndoStack()->undo();
+  EXPECT_EQ(Row("Preset").Value, "");
 }
 
 // Pixels at places a user looks: a changed value's bold name, a ticked box, a mixed selection's
