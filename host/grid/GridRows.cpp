@@ -80,6 +80,7 @@ void TGridRows::Rebuild() {
   ++FGeneration;
   TObject* first = FirstSelected();
   FFirstClass = first ? first->ClassType() : nullptr;
+  FSelectionCount = first ? FDesigner->GetRootSelection()->GetCount() : 0;
   if (!first) return;
   std::vector<std::unique_ptr<TGridRow>> members = MemberRows(first);
   if (!FCategoryView) {
@@ -146,8 +147,11 @@ void TGridRows::ReadTexts(TGridRow& ARow) {
   ARow.ReadOnly = editor->GetIsReadOnly();
   ARow.Expandable = editor->GetIsExpandable() && HasSubRows(editor);
   if (ARow.Property) {
-    const TRef<IStringArrayList> texts = ARow.Property->GetIsWriteOnly() ? nullptr : ARow.Property->GetDisplayValues(nullptr);
-    ARow.Value = ARow.Property->GetIsWriteOnly() ? String() : ARow.Property->GetDisplayValue(nullptr);
+    const Boolean readable = !ARow.Property->GetIsWriteOnly();
+    ARow.Value = readable ? ARow.Property->GetDisplayValue(nullptr) : String();
+    // One object's values never differ: the texts are read a second time only for several.
+    const TRef<IStringArrayList> texts =
+        readable && FSelectionCount > 1 ? ARow.Property->GetDisplayValues(nullptr) : nullptr;
     ARow.Mixed = texts && texts->Query()->Contains([&](const String& AText) { return AText != texts->GetItem(0); });
     ARow.IsDefault = ARow.Property->GetIsAllDefault();
   } else if (TRef<IMethodEditor> method; Supports(editor, method)) {

@@ -104,6 +104,7 @@ private:
   Boolean FShownValid = false;
   Integer FGeneration = 0;
   TClass FFirstClass = nullptr;
+  Integer FSelectionCount = 0;
   // Paths in upper case, by the class of the first selected object.
   std::unordered_map<TClass, std::unordered_set<String>> FExpandedByClass;
   // Headings are open until closed, in every class.
