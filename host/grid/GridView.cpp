@@ -45,6 +45,8 @@ TGridView::TGridView(QWidget* AParent)
 }
 
 TGridView::~TGridView() {
+  // Nothing is announced any more: the widgets that would hear it may be gone already.
+  blockSignals(true);
   SetDesigner(nullptr);
   TGridPaintObjects::Release();
 }
@@ -217,8 +219,8 @@ void TGridView::mousePressEvent(QMouseEvent* AEvent) {
   const Boolean wasCurrent = row == FCurrent;
   SetCurrent(row);
   if (FCurrent != row) return; // the edit of the row left was refused
-  if (point.x() > FNameWidth && MouseToEditor(AEvent, true)) return;
-  if (wasCurrent && point.x() > FNameWidth && Editable(*row)) StartEdit();
+  // A second click on a value edits it, unless the editor takes the click (a check box).
+  FEditOnRelease = wasCurrent && point.x() > FNameWidth && !MouseToEditor(AEvent, true);
 }
 
 void TGridView::mouseMoveEvent(QMouseEvent* AEvent) {
@@ -232,8 +234,10 @@ void TGridView::mouseMoveEvent(QMouseEvent* AEvent) {
 
 void TGridView::mouseReleaseEvent(QMouseEvent* AEvent) {
   if (std::exchange(FDraggingSplitter, false)) return;
-  if (AEvent->position().x() > FNameWidth && FCurrent && IndexAt(int(AEvent->position().y())) == IndexOf(FCurrent))
-    MouseToEditor(AEvent, false);
+  const Boolean editOnRelease = std::exchange(FEditOnRelease, false);
+  if (AEvent->position().x() <= FNameWidth || !FCurrent || IndexAt(int(AEvent->position().y())) != IndexOf(FCurrent))
+    return;
+  if (!MouseToEditor(AEvent, false) && editOnRelease) StartEdit();
 }
 
 void TGridView::mouseDoubleClickEvent(QMouseEvent* AEvent) {

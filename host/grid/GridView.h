@@ -130,6 +130,7 @@ private:
   Integer FModifiedNotices = 0;
   int FNameWidth = 140;
   Boolean FDraggingSplitter = false;
+  Boolean FEditOnRelease = false;
 
   std::vector<int> FTops; // the top of each shown row, then the bottom of the last
   Boolean FLayoutValid = false;

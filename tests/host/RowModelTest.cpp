@@ -5,13 +5,10 @@
 #include <optional>
 
 #include "design/Registry.h"
-#include "host/headless/HostDesigner.h"
-#include "host/headless/PackageScope.h"
 #include "host/headless/RowModel.h"
 #include "reflection/RttiTypes.h"
-#include "rtl/Module.h"
-#include "runtime/DesignFile.h"
 #include "runtime/Graphics.h"
+#include "tests/host/SampleSession.h"
 #include "tests/rtl/ExpectError.h"
 
 namespace Tarvo {
@@ -36,26 +33,10 @@ namespace {
 
 class RowModelTest : public testing::Test {
 protected:
-  void SetUp() override {
-    FPackage.emplace();
-    FModule = LoadModule(TARVO_SAMPLES_MODULE_PATH);
-    FRoot.reset(TComponentHelper::CreateComponent(TComponent::ClassInfo(), nullptr, true, false));
-    ReadDesignFile(TARVO_SAMPLE_DESIGN, FRoot.get());
-    FDesigner = New<THostDesigner>(FRoot.get());
-    FInspector = TRowModel(FDesigner);
-  }
-  void TearDown() override {
-    FInspector = TRowModel(nullptr);
-    FDesigner = nullptr;
-    FRoot.reset();
-    UnloadModule(FModule);
-    FPackage.reset();
-  }
+  RowModelTest() : FInspector(FSession.Designer()) {}
 
   TRowModel& Select(std::initializer_list<const char*> ANames) {
-    const TRef<IObjectArrayList> selection = New<TObjectArrayList>();
-    for (const char* name : ANames) selection->Add(FRoot->FindComponent(name));
-    FDesigner->SetSelection(selection);
+    FSession.Select(ANames);
     FInspector.Refresh();
     return FInspector;
   }
@@ -66,11 +47,8 @@ protected:
   }
   bool HasRow(const String& AName) { return std::ranges::count(Names(), AName) == 1; }
 
-  std::optional<TPackageScope> FPackage;
-  TModule* FModule = nullptr;
-  TOwnedObject<TComponent> FRoot;
-  TRef<THostDesigner> FDesigner;
-  TRowModel FInspector{nullptr};
+  Testing::TSampleSession FSession;
+  TRowModel FInspector;
 };
 
 TEST_F(RowModelTest, RowsAreTheMembersThePackageGivesAVisibleEditorSortedByName) {
@@ -137,7 +115,7 @@ TEST_F(RowModelTest, AnExpandingEditorGivesSubRowsThatWriteToTheValuesOfEverySel
   FInspector.SetValue("Font.Size", "14");
   for (const char* name : {"Scope1", "TriggerMark"}) {
     TRef<ISinglePropertyInfo> member;
-    TComponent* component = FRoot->FindComponent(name);
+    TComponent* component = FSession.Component(name);
     TRttiObjectHelper::TypeInfo(component, false)->FindSinglePropertyMember("Font", member);
     EXPECT_EQ(static_cast<TFont*>(member->GetValue(component).AsObject())->GetSize(), 14) << name;
   }
