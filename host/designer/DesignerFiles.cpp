@@ -9,7 +9,7 @@
 #include "host/designer/ComponentPalette.h"
 #include "host/designer/ComponentTree.h"
 #include "host/designer/DesignerWindow.h"
-#include "host/grid/InspectorGrid.h"
+#include "host/grid/GridWidget.h"
 #include "platform/MessageDlg.h"
 #include "platform/ModalSeam.h"
 #include "platform/OpenFileDialog.h"

@@ -12,7 +12,7 @@
 
 #include "host/designer/ComponentPalette.h"
 #include "host/designer/ComponentTree.h"
-#include "host/grid/InspectorGrid.h"
+#include "host/grid/GridWidget.h"
 #include "platform/MessageDlg.h"
 #include "reflection/RttiTypes.h"
 #include "runtime/DesignFile.h"

@@ -4,7 +4,7 @@
 #include <QLineEdit>
 
 #include "host/grid/GridView.h"
-#include "host/grid/InspectorGrid.h"
+#include "host/grid/GridWidget.h"
 #include "host/headless/RowModel.h"
 
 namespace Tarvo {

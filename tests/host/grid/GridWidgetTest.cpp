@@ -10,7 +10,7 @@
 #include <QUndoStack>
 
 #include "host/grid/GridView.h"
-#include "host/grid/InspectorGrid.h"
+#include "host/grid/GridWidget.h"
 #include "host/headless/DialogAnswer.h"
 #include "platform/ModalSeam.h"
 #include "tests/forms/FormTestSupport.h"
@@ -22,7 +22,7 @@ namespace {
 
 using Testing::Click;
 
-class InspectorGridTest : public testing::Test {
+class GridWidgetTest : public testing::Test {
 protected:
   void SetUp() override {
     FGrid.emplace();
@@ -62,7 +62,7 @@ protected:
   std::optional<TInspectorGrid> FGrid;
 };
 
-TEST_F(InspectorGridTest, ATypedValueIsWrittenToEverySelectedObjectAndUndoneAndRedoneAsOneStep) {
+TEST_F(GridWidgetTest, ATypedValueIsWrittenToEverySelectedObjectAndUndoneAndRedoneAsOneStep) {
   FSession.Select({"Generator1", "Generator2"});
   Enter(Type("Frequency", "1500"));
   EXPECT_EQ(View().LineEdit(), nullptr);
@@ -79,7 +79,7 @@ TEST_F(InspectorGridTest, ATypedValueIsWrittenToEverySelectedObjectAndUndoneAndR
   EXPECT_EQ(FSession.Text("Generator2", "Frequency"), "1500");
 }
 
-TEST_F(InspectorGridTest, ARefusedValueStaysInItsRowWithTheReasonAndNothingIsWritten) {
+TEST_F(GridWidgetTest, ARefusedValueStaysInItsRowWithTheReasonAndNothingIsWritten) {
   FSession.Select({"Generator1", "Generator2"});
   QLineEdit* edit = Type("Frequency", "-5");
   Enter(edit);
@@ -101,7 +101,7 @@ TEST_F(InspectorGridTest, ARefusedValueStaysInItsRowWithTheReasonAndNothingIsWri
   EXPECT_EQ(View().LineEdit(), nullptr);
 }
 
-TEST_F(InspectorGridTest, EscapeCancelsTheEditAndWritesNothing) {
+TEST_F(GridWidgetTest, EscapeCancelsTheEditAndWritesNothing) {
   FSession.Select({"Generator1"});
   QLineEdit* edit = Type("Frequency", "1234");
   Key(edit, Qt::Key_Escape);
@@ -109,7 +109,7 @@ TEST_F(InspectorGridTest, EscapeCancelsTheEditAndWritesNothing) {
   EXPECT_EQ(FSession.Text("Generator1", "Frequency"), "440");
 }
 
-TEST_F(InspectorGridTest, ASelectionChangeCommitsTheEditInProgressToTheObjectsItWasTypedFor) {
+TEST_F(GridWidgetTest, ASelectionChangeCommitsTheEditInProgressToTheObjectsItWasTypedFor) {
   FSession.Select({"Generator1"});
   Type("Frequency", "2500");
   // The host asks before it changes the selection, as the designer window does.
@@ -125,7 +125,7 @@ TEST_F(InspectorGridTest, ASelectionChangeCommitsTheEditInProgressToTheObjectsIt
   EXPECT_EQ(FSession.Text("Generator2", "Frequency"), "3000");
 }
 
-TEST_F(InspectorGridTest, TheDropDownListWritesThePickAndTheBooleanBoxTakesClicks) {
+TEST_F(GridWidgetTest, TheDropDownListWritesThePickAndTheBooleanBoxTakesClicks) {
   FSession.Select({"Generator1"});
   ASSERT_NE(View().SelectPath("Waveform"), nullptr);
   ASSERT_TRUE(View().ListButton()->isVisible());
@@ -143,7 +143,7 @@ TEST_F(InspectorGridTest, TheDropDownListWritesThePickAndTheBooleanBoxTakesClick
   EXPECT_EQ(FGrid->UndoStack()->count(), 2);
 }
 
-TEST_F(InspectorGridTest, RowsExpandAndCollapseAndStayExpandedForTheirClassAcrossSelections) {
+TEST_F(GridWidgetTest, RowsExpandAndCollapseAndStayExpandedForTheirClassAcrossSelections) {
   FSession.Select({"Scope1"});
   TGridRow& channels = Row("Channels");
   ASSERT_TRUE(channels.Expandable);
@@ -161,7 +161,7 @@ TEST_F(InspectorGridTest, RowsExpandAndCollapseAndStayExpandedForTheirClassAcros
   EXPECT_EQ(View().Rows().Shown().size(), collapsed);
 }
 
-TEST_F(InspectorGridTest, CategoryViewPutsRowsUnderHeadingsAndSearchKeepsTheMatchingOnes) {
+TEST_F(GridWidgetTest, CategoryViewPutsRowsUnderHeadingsAndSearchKeepsTheMatchingOnes) {
   FSession.Select({"Generator1"});
   FGrid->SetSearchText("freq");
   std::vector<String> shown;
@@ -178,7 +178,7 @@ TEST_F(InspectorGridTest, CategoryViewPutsRowsUnderHeadingsAndSearchKeepsTheMatc
 
 // The gestures that open more than a text: a form under the row, a control over it, a dialog.
 // Each is one undo step, however many writes it makes.
-TEST_F(InspectorGridTest, FormsOpenUnderTheirRowControlsOverItAndDialogsThroughTheButton) {
+TEST_F(GridWidgetTest, FormsOpenUnderTheirRowControlsOverItAndDialogsThroughTheButton) {
   FSession.Select({"Scope1"});
   ASSERT_NE(View().SelectPath("Channel"), nullptr);
   QWidget* form = View().InplaceForm();
@@ -215,7 +215,7 @@ TEST_F(InspectorGridTest, FormsOpenUnderTheirRowControlsOverItAndDialogsThroughT
 
 // Pixels at places a user looks: a changed value's bold name, a ticked box, a mixed selection's
 // muted text. Text is smoothed, so ink is measured, not matched to a colour.
-TEST_F(InspectorGridTest, TheGridPaintsBoldChangedNamesCheckBoxesAndMutedMixedTexts) {
+TEST_F(GridWidgetTest, TheGridPaintsBoldChangedNamesCheckBoxesAndMutedMixedTexts) {
   const auto ink = [&](const QImage& AImage, const QRect& ARect) {
     long total = 0;
     for (int y = ARect.top(); y <= ARect.bottom(); ++y)

@@ -1,4 +1,4 @@
-#include "host/grid/InspectorGrid.h"
+#include "host/grid/GridWidget.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
