@@ -8,7 +8,7 @@
 #include <QImage>
 
 #include "host/grid/GridView.h"
-#include "host/grid/InspectorGrid.h"
+#include "host/grid/GridWidget.h"
 #include "host/headless/HostDesigner.h"
 #include "package/PackageEntry.h"
 #include "reflection/MemberInfo.h"
