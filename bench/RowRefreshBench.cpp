@@ -117,7 +117,7 @@ void BM_ReflectionBaseline(benchmark::State& AState) {
   std::vector<TRef<ISinglePropertyInfo>> members;
   for (const TInspectorRow& row : inspector.Rows())
     if (TRef<ISinglePropertyInfo> member;
-        Supports<IPropertyEditor>(row.Editor) &&
+        inspector.Find(row.Path).Property &&
         TRttiObjectHelper::TypeInfo(Design().First(), false)->FindSinglePropertyMember(row.Name, member))
       members.push_back(member);
   const TRef<IObjectArrayList> selection = designer->GetSelection();

@@ -43,8 +43,9 @@ TObject* TGridRows::FirstSelected() const {
 
 std::unordered_set<String>& TGridRows::ExpandedPaths() { return FExpandedByClass[FFirstClass]; }
 
-std::unique_ptr<TGridRow> TGridRows::MemberRow(const TRef<IMemberInfo>& AMember, TObject* ALookupObject,
-                                               TMemberEditor* AParentEditor, TGridRow* AParent) {
+std::unique_ptr<TGridRow> TGridRows::MemberRow(const TRef<IMemberInfo>& AMember, std::size_t APlace,
+                                               TObject* ALookupObject, TMemberEditor* AParentEditor,
+                                               TGridRow* AParent) {
   TRef<IArrayList<TMemberEditorClass>> classes;
   if (!GetMemberEditorClasses(AMember, ALookupObject, classes)) return nullptr;
   auto row = std::make_unique<TGridRow>();
@@ -54,21 +55,26 @@ std::unique_ptr<TGridRow> TGridRows::MemberRow(const TRef<IMemberInfo>& AMember,
   row->Member = AMember;
   row->EditorClass = classes->GetItem(0);
   row->ParentEditor = AParentEditor;
+  row->MemberPlace = APlace;
   return row;
 }
 
 // The members' rows of the selection, by name.
 std::vector<std::unique_ptr<TGridRow>> TGridRows::MemberRows(TObject* AFirst) {
   std::vector<std::unique_ptr<TGridRow>> rows;
-  for (const TRef<IMemberInfo>& member : CommonMembers(FDesigner->GetRootSelection()))
-    if (auto row = MemberRow(member, AFirst, nullptr, nullptr)) rows.push_back(std::move(row));
+  const std::vector<TRef<IMemberInfo>> members = CommonMembers(FDesigner->GetRootSelection());
+  for (std::size_t i = 0; i < members.size(); ++i)
+    if (auto row = MemberRow(members[i], i, AFirst, nullptr, nullptr)) rows.push_back(std::move(row));
   Sort(rows);
   return rows;
 }
 
 // Rows whose editor is not built yet count as sortable; an editor that keeps its place puts its
-// row back when it is built.
+// row back there when it is built.
 void TGridRows::Sort(std::vector<std::unique_ptr<TGridRow>>& ARows) {
+  std::stable_sort(ARows.begin(), ARows.end(), [](const std::unique_ptr<TGridRow>& A, const std::unique_ptr<TGridRow>& B) {
+    return A->MemberPlace < B->MemberPlace;
+  });
   SortRowsByName(
       ARows, [](const std::unique_ptr<TGridRow>& ARow) { return !ARow->Editor || ARow->Editor->GetIsSortable(); },
       [](const std::unique_ptr<TGridRow>& ARow) -> const String& { return ARow->Name; });
@@ -88,7 +94,7 @@ void TGridRows::Rebuild() {
   } else {
     // A member in several categories has a row under each.
     const auto addUnder = [&](TGridRow& AHeading, const std::unique_ptr<TGridRow>& AMember) {
-      auto row = MemberRow(AMember->Member, first, nullptr, &AHeading);
+      auto row = MemberRow(AMember->Member, AMember->MemberPlace, first, nullptr, &AHeading);
       AHeading.Children.push_back(std::move(row));
     };
     std::vector<std::vector<String>> categories;
@@ -179,8 +185,9 @@ void TGridRows::MakeChildren(TGridRow& ARow) {
     TMemberEditor* parent = ARow.Editor->GetInstance();
     TObject* first = FirstSelected();
     TObject* lookupObject = first ? parent->GetValueForRootInstance(first) : nullptr;
-    for (const TRef<IMemberInfo>& member : members)
-      if (auto child = MemberRow(member, lookupObject, parent, &ARow)) ARow.Children.push_back(std::move(child));
+    for (Integer i = 0; i < members->GetCount(); ++i)
+      if (auto child = MemberRow(members->GetItem(i), std::size_t(i), lookupObject, parent, &ARow))
+        ARow.Children.push_back(std::move(child));
   }
   Sort(ARow.Children);
 }

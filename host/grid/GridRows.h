@@ -23,6 +23,9 @@ struct TGridRow {
   TRef<IMemberInfo> Member;
   TMemberEditorClass EditorClass;
   TMemberEditor* ParentEditor = nullptr;
+  // Where the member stands in its class's order: a row whose editor keeps its place goes back
+  // there when the rows are sorted.
+  std::size_t MemberPlace = 0;
   TRef<IMemberEditor> Editor;       // nil until the row is prepared
   TRef<IPropertyEditor> Property;   // the editor, when it edits a value
   Boolean IsHeading = false;        // a category heading
@@ -65,6 +68,7 @@ public:
   // The top rows for the designer's selection, made anew; the rows that were expanded the last
   // time a component of this class was first in the selection are expanded again.
   void Rebuild();
+  std::vector<std::unique_ptr<TGridRow>>& Top() { return FTop; }
   // The rows on show, top to bottom.
   const std::vector<TGridRow*>& Shown();
   // Builds the row's editor and reads what it shows when that is out of date. False when the
@@ -83,7 +87,7 @@ public:
   TObject* FirstSelected() const;
 
 private:
-  std::unique_ptr<TGridRow> MemberRow(const TRef<IMemberInfo>& AMember, TObject* ALookupObject,
+  std::unique_ptr<TGridRow> MemberRow(const TRef<IMemberInfo>& AMember, std::size_t APlace, TObject* ALookupObject,
                                       TMemberEditor* AParentEditor, TGridRow* AParent);
   std::vector<std::unique_ptr<TGridRow>> MemberRows(TObject* AFirst);
   void MakeChildren(TGridRow& ARow);

@@ -64,9 +64,7 @@ void WriteGridPicture(const TRef<IDesigner>& ADesigner, const TInspectOptions& A
   grid.SetDesigner(ADesigner);
   TGridView& view = *grid.View();
   TGridRows& rows = view.Rows();
-  for (const String& path : AOptions.Expand)
-    if (TGridRow* row = rows.Find(path); !row || (rows.Expand(*row), !row->Expanded))
-      throw EInspectError("no row \"" + path + "\" that expands");
+  for (const String& path : AOptions.Expand) ExpandRow(rows, path);
   if (AOptions.ExpandAll) rows.ExpandAll(TRowModel::MaxExpandDepth);
   grid.resize(int(AOptions.Width), 200);
   grid.show();

@@ -64,7 +64,7 @@ void SetValue(TRowModel& AInspector, const THostDesigner& ADesigner, const TInsp
   const Integer notices = ADesigner.ModifiedCount();
   AInspector.SetValue(AEdit.Path, AEdit.Text);
   if (ADesigner.ModifiedCount() == notices)
-    throw EInspectError(AInspector.Find(AEdit.Path).Path + ": \"" + AEdit.Text + "\" was not accepted");
+    throw EInspectError(AInspector.Find(AEdit.Path).Path() + ": \"" + AEdit.Text + "\" was not accepted");
 }
 
 // The dialog runs with the answer of the command line; an answer it takes writes, or it is
@@ -75,7 +75,7 @@ void RunDialog(TRowModel& AInspector, const THostDesigner& ADesigner, const TIns
   const Integer notices = ADesigner.ModifiedCount();
   AInspector.Dialog(AEdit.Path);
   if (answer && ADesigner.ModifiedCount() == notices)
-    throw EInspectError(AInspector.Find(AEdit.Path).Path + ": \"" + *answer + "\" was not accepted");
+    throw EInspectError(AInspector.Find(AEdit.Path).Path() + ": \"" + *answer + "\" was not accepted");
 }
 
 // The headings of the categories, in the order they were first used.
@@ -115,13 +115,13 @@ String RunInspect(const TInspectOptions& AOptions, const TInspectPaths& APaths) 
     WriteGridPicture(designer, AOptions);
     return String();
   }
-  for (const String& path : AOptions.Expand) inspector.Expand(inspector.Find(path));
+  for (const String& path : AOptions.Expand) inspector.Expand(path);
   if (AOptions.ExpandAll) inspector.ExpandAll();
   if (AOptions.Values) {
     const std::vector<String> values = inspector.Values(*AOptions.Values);
     return AOptions.Json ? ValuesToJson(values) : ValuesToText(values);
   }
-  std::vector<TInspectorRow>& rows = inspector.Rows();
+  std::vector<TInspectorRow> rows = inspector.Rows();
   if (!AOptions.Filter.empty()) {
     const TRef<IMatches> words = New<TWordsMatch>(AOptions.Filter);
     std::erase_if(rows, [&](const TInspectorRow& ARow) {

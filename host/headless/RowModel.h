@@ -1,13 +1,12 @@
 #pragma once
-// The rows of an object inspector over a designer's selection, as the package decides them:
-// which members get a row, which editor serves each, and what each row shows. A row is made by
-// asking the registry for the member's editor classes and building the first; its texts are
-// read from that editor. Rows of a nested value are made on demand, when their parent expands.
+// The inspector's rows as the tool prints them: the grid's own rows over the designer's
+// selection, with every refusal a command line needs named by its path.
 
+#include <memory>
 #include <optional>
 #include <vector>
 
-#include "design/SinglePropertyEditor.h"
+#include "host/grid/GridRows.h"
 
 namespace Tarvo {
 
@@ -19,6 +18,7 @@ struct TInspectorRange {
   TValue Max;
 };
 
+// A row as printed: what it shows, with its children when it is expanded.
 struct TInspectorRow {
   String Path; // member names from the top row down, joined by "."
   String Name;
@@ -32,9 +32,14 @@ struct TInspectorRow {
   std::optional<TInspectorRange> Range;          // when the editor answers IPropertyRange
   std::optional<TInspectorRange> SuggestedRange; // when it answers IPropertySuggestedRange
   std::vector<String> Categories;                // of a top row, in the categories' order
-  TRef<IMemberEditor> Editor;
   std::vector<TInspectorRow> Children;
 };
+
+// The shown row at a dotted path, names compared without regard to case; the rows on the way are
+// expanded. EInspectError says where the path stopped.
+TGridRow& FindRow(TGridRows& ARows, const String& APath);
+// EInspectError when the row at APath does not expand.
+void ExpandRow(TGridRows& ARows, const String& APath);
 
 class TRowModel {
 public:
@@ -43,15 +48,14 @@ public:
 
   explicit TRowModel(TRef<IDesigner> ADesigner) : FDesigner(std::move(ADesigner)) {}
 
-  // Builds the top rows for the current selection, all collapsed: one for each member that all
-  // selected objects have and that the package gives a visible editor.
+  // The top rows for the current selection, all collapsed, whatever was expanded before.
   void Refresh();
-  std::vector<TInspectorRow>& Rows() { return FRows; }
+  // The visible rows and, under the expanded ones, theirs.
+  std::vector<TInspectorRow> Rows();
 
-  // The row at a dotted path, compared without regard to case; the rows on the way are expanded.
-  TInspectorRow& Find(const String& APath);
-  void Expand(TInspectorRow& ARow);
-  void ExpandAll();
+  TGridRow& Find(const String& APath) { return FindRow(*FRows, APath); }
+  void Expand(const String& APath) { ExpandRow(*FRows, APath); }
+  void ExpandAll() { FRows->ExpandAll(MaxExpandDepth); }
 
   // Through the row editor's own text conversion, to every selected object.
   void SetValue(const String& APath, const String& AText);
@@ -65,19 +69,11 @@ public:
   void Dialog(const String& APath);
 
 private:
-  // The row of AMember on ALookupObject, or none when the package gives it no visible editor.
-  bool MakeRow(const TRef<IMemberInfo>& AMember, TObject* ALookupObject, TMemberEditor* AParentEditor,
-               const String& AParentPath, TInspectorRow& ARow);
-  void ReadRow(TInspectorRow& ARow, const String& AParentPath);
-  void ExpandDown(TInspectorRow& ARow, Integer ADepth);
   TRef<IPropertyEditor> ValueEditor(const String& APath);
-  TObject* FirstSelected();
+  void AddRows(TGridRow* AParent, std::vector<std::unique_ptr<TGridRow>>& ARows, std::vector<TInspectorRow>& AOut);
 
   TRef<IDesigner> FDesigner;
-  std::vector<TInspectorRow> FRows;
+  std::unique_ptr<TGridRows> FRows = std::make_unique<TGridRows>();
 };
-
-// Sorts the rows whose editors allow it by name; the others keep their places.
-void SortRows(std::vector<TInspectorRow>& ARows);
 
 } // namespace Tarvo
