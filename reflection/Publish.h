@@ -41,14 +41,47 @@ template <class T> TValue ValueFrom(const T& AValue, PTypeInfo AType) {
   else return TValue::From<T>(AValue, AType);
 }
 
-// The record a member's value has: the one given, else the default record of T. A TValue
-// accessor, or a type without a default record (a plain record), must name its record.
+// The record argument of a member left out: its C++ type must have a record of its own.
+struct TOwnTypeRecord {};
+
+// A member whose type has no record, published without naming one, would fail only when its
+// module loads. The type shows in the instantiation the compiler reports.
+template <class TMemberType> struct TPublishedTypeNeedsARecord {
+  static_assert(CHasTypeRecord<TMemberType> && !std::is_same_v<TMemberType, TValue>,
+                "a published member's type has no type record: declare it with TARVO_ENUM or TARVO_SET, "
+                "use a type that has one (Int64, not long long), or pass the record as the last argument");
+  static PTypeInfo Get() { return TypeInfo<TMemberType>(); }
+};
+
+// The record a member's value has: the one given, else the record of T.
+template <class T> PTypeInfo RecordOf(TOwnTypeRecord) { return TPublishedTypeNeedsARecord<T>::Get(); }
+template <class T> PTypeInfo RecordOf(std::nullptr_t) { return TPublishedTypeNeedsARecord<T>::Get(); }
 template <class T> PTypeInfo RecordOf(PTypeInfo AGiven) {
-  if constexpr (std::is_same_v<T, TValue> || !CHasTypeRecord<T>) {
-    TARVO_ASSERT(AGiven != nullptr);
-    return AGiven;
-  } else return AGiven ? AGiven : TypeInfo<T>();
+  TARVO_ASSERT(AGiven != nullptr);
+  return AGiven;
 }
+
+// Whether a value written for a default or a limit stands for a value of the property's type:
+// a Boolean takes bool, a number takes a number (a whole one for a whole-number type), a string
+// takes text, an enumeration or a set only its own values, an object or interface only nullptr.
+template <class T, class V> constexpr bool FitsMemberType() {
+  using TGiven = std::decay_t<V>;
+  if constexpr (std::is_same_v<T, TValue> || std::is_same_v<T, Variant> || std::is_same_v<T, TGiven>) return true;
+  else if constexpr (std::is_same_v<T, bool> || std::is_same_v<TGiven, bool>) return false;
+  else if constexpr (std::is_enum_v<T> || std::is_enum_v<TGiven>) return false;
+  else if constexpr (std::is_integral_v<T>) return std::is_integral_v<TGiven>;
+  else if constexpr (std::is_floating_point_v<T>) return std::is_arithmetic_v<TGiven>;
+  else if constexpr (std::is_same_v<T, String>) return std::is_convertible_v<TGiven, String>;
+  else if constexpr (std::is_pointer_v<T> || TIsInterfaceRef<T>::value) return std::is_null_pointer_v<TGiven>;
+  else return !std::is_arithmetic_v<TGiven> && std::is_convertible_v<TGiven, T>;
+}
+
+// A default or limit of the wrong type would fail only when the module loads. Both types show in
+// the instantiation the compiler reports.
+template <class TPropertyType, class TGivenValue> struct TValueMustFitThePropertyType {
+  static_assert(FitsMemberType<TPropertyType, TGivenValue>(),
+                "a .Default(...) or .Limits(...) value does not fit the property's type");
+};
 
 // What a reader is: a field, or a member function with no argument.
 template <class M> struct TReader;
@@ -80,7 +113,6 @@ struct TWriter<T C::*> {
   static void Write(C* AObject, T C::*AField, Value AValue) { AObject->*AField = std::move(AValue); }
 };
 
-// A value of any form the tables write for defaults and limits.
 // A value of any form the tables write for defaults and limits: of its own type where it has a
 // record (an enumeration value stays one), else through the implicit builds ("text", 1.5).
 template <class V> TValue AnyValue(const V& AValue) {
@@ -90,12 +122,13 @@ template <class V> TValue AnyValue(const V& AValue) {
 
 } // namespace Detail
 
-// Chains the details of one member: .Default(0).Stored(false).Attr<HiddenDesignAttribute>().
-template <class C> class TMemberEntryBuilder {
+// Chains the details of one member of type T: .Default(0).Stored(false).Attr<HiddenDesignAttribute>().
+template <class C, class T = void> class TMemberEntryBuilder {
 public:
   explicit TMemberEntryBuilder(TMemberEntry& AEntry) : FEntry(AEntry) {}
 
   template <class V> TMemberEntryBuilder& Default(const V& AValue) {
+    static_assert(sizeof(Detail::TValueMustFitThePropertyType<T, V>) > 0);
     FEntry.HasDefault = true;
     FEntry.Default = Detail::AnyValue(AValue).Cast(FEntry.Type);
     return *this;
@@ -109,6 +142,7 @@ public:
     return *this;
   }
   template <class V> TMemberEntryBuilder& Limits(const V& AMin, const V& AMax) {
+    static_assert(sizeof(Detail::TValueMustFitThePropertyType<T, V>) > 0);
     FEntry.HasLimits = true;
     FEntry.MinValue = Detail::AnyValue(AMin);
     FEntry.MaxValue = Detail::AnyValue(AMax);
@@ -137,8 +171,9 @@ protected:
 
   // A property over a reader and a writer (each a field or a member function); without a
   // writer it is read-only.
-  template <class R, class W = std::nullptr_t>
-  TMemberEntryBuilder<C> Property(const String& AName, R AReader, W AWriter = nullptr, PTypeInfo AType = nullptr) {
+  template <class R, class W = std::nullptr_t, class P = Detail::TOwnTypeRecord>
+  TMemberEntryBuilder<C, typename Detail::TReader<R>::Value> Property(const String& AName, R AReader,
+                                                                      W AWriter = nullptr, P AType = {}) {
     using TRead = Detail::TReader<R>;
     using T = typename TRead::Value;
     TMemberEntry& entry = Add(TMemberEntryKind::Property, AName, Detail::RecordOf<T>(AType));
@@ -148,21 +183,22 @@ protected:
     };
     entry.HasReadMethod = TRead::IsMethod;
     if constexpr (!std::is_null_pointer_v<W>) SetWriter<T>(entry, AWriter);
-    return TMemberEntryBuilder<C>(entry);
+    return TMemberEntryBuilder<C, T>(entry);
   }
 
-  template <class W>
-  TMemberEntryBuilder<C> WriteOnlyProperty(const String& AName, W AWriter, PTypeInfo AType = nullptr) {
+  template <class W, class P = Detail::TOwnTypeRecord>
+  TMemberEntryBuilder<C, typename Detail::TWriter<W>::Value> WriteOnlyProperty(const String& AName, W AWriter,
+                                                                               P AType = {}) {
     using T = typename Detail::TWriter<W>::Value;
     TMemberEntry& entry = Add(TMemberEntryKind::Property, AName, Detail::RecordOf<T>(AType));
     SetWriter<T>(entry, AWriter);
-    return TMemberEntryBuilder<C>(entry);
+    return TMemberEntryBuilder<C, T>(entry);
   }
 
   // A property with one index: T Get(I) const and void Set(I, T).
-  template <class T, class I, class A = std::nullptr_t>
-  TMemberEntryBuilder<C> IndexedProperty(const String& AName, T (C::*AReader)(I) const, A AWriter = nullptr,
-                                         PTypeInfo AType = nullptr) {
+  template <class T, class I, class A = std::nullptr_t, class P = Detail::TOwnTypeRecord>
+  TMemberEntryBuilder<C, std::remove_cvref_t<T>> IndexedProperty(const String& AName, T (C::*AReader)(I) const,
+                                                                 A AWriter = nullptr, P AType = {}) {
     using TIndex = std::remove_cvref_t<I>;
     using TItem = std::remove_cvref_t<T>;
     TMemberEntry& entry = Add(TMemberEntryKind::IndexedProperty, AName, Detail::RecordOf<TItem>(AType));
@@ -184,10 +220,11 @@ protected:
       };
       entry.HasWriteMethod = true;
     }
-    return TMemberEntryBuilder<C>(entry);
+    return TMemberEntryBuilder<C, TItem>(entry);
   }
 
-  template <class T> TMemberEntryBuilder<C> Field(const String& AName, T C::*AField, PTypeInfo AType = nullptr) {
+  template <class T, class P = Detail::TOwnTypeRecord>
+  TMemberEntryBuilder<C, T> Field(const String& AName, T C::*AField, P AType = {}) {
     TMemberEntry& entry = Add(TMemberEntryKind::Field, AName, Detail::RecordOf<T>(AType));
     const PTypeInfo type = entry.Type;
     entry.Read = [AField, type](TObject* AObject) {
@@ -196,7 +233,7 @@ protected:
     entry.Write = [AField, type](TObject* AObject, const TValue& AValue) {
       static_cast<C*>(AObject)->*AField = Detail::ValueTo<T>(AValue, type);
     };
-    return TMemberEntryBuilder<C>(entry);
+    return TMemberEntryBuilder<C, T>(entry);
   }
 
   // A method; with the parameter names its parameters are known to the designer.

@@ -1,4 +1,4 @@
-// expect: the parent is not the class's direct base
+// expect: static assertion failed.*the parent is not the class's direct base
 // TB derives from TA but names TObject: InheritsFrom(TA) would be false.
 #include "rtl/Object.h"
 

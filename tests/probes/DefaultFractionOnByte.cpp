@@ -1,0 +1,12 @@
+// expect: TValueMustFitThePropertyType<unsigned char, double>.*static assertion failed: a \.Default
+// A fraction would be cut to a whole number without a word.
+#include "reflection/Publish.h"
+
+namespace Probe {
+class TGadget : public Tarvo::TObject {
+  TARVO_CLASS(TGadget, Tarvo::TObject)
+public:
+  Tarvo::Byte FLevel = 0;
+};
+TARVO_PUBLISH(TGadget) { Property("Level", &TGadget::FLevel, &TGadget::FLevel).Default(1.5); }
+} // namespace Probe
