@@ -21,7 +21,7 @@ namespace {
 using TTypeAttributes = std::map<PTypeInfo, std::vector<std::unique_ptr<TCustomAttribute>>>;
 
 TTypeAttributes& TypeAttributeRegistry() {
-  static TModuleSwept<TTypeAttributes> registry(KeyBelongsTo);
+  static TModuleSwept<TTypeAttributes> registry("type attributes", KeyBelongsTo);
   return registry.Items();
 }
 

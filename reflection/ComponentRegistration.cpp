@@ -21,7 +21,7 @@ bool ClassBelongsTo(const TRegisteredComponent& AEntry, const TModule* AModule) 
 }
 
 struct TComponentRegistry {
-  TModuleSwept<std::vector<TRegisteredComponent>> Components{ClassBelongsTo};
+  TModuleSwept<std::vector<TRegisteredComponent>> Components{"component registrations", ClassBelongsTo};
   THooks Procedures;
   THooks Notifies;
 
@@ -54,15 +54,30 @@ int AddHook(THooks& AHooks, TProc<TClass> AHook) {
 
 } // namespace
 
+// Constant-initialised: modules may register before the component model's own initialisers ran.
+constinit TClass GComponentBaseClass = nullptr;
+
+void SetComponentBaseClass(TClass AClass) { GComponentBaseClass = AClass; }
+
 void RegisterComponents(const String& APage, const std::vector<TClass>& AClasses) {
-  TComponentRegistry& registry = ComponentRegistry();
   for (TClass componentClass : AClasses) {
     TARVO_ASSERT(componentClass != nullptr);
+    if (GComponentBaseClass && !componentClass->InheritsFrom(GComponentBaseClass))
+      throw EComponentRegistrationError(String(componentClass->ClassName()) + ": only components go on a palette, and " +
+                                        componentClass->ClassName() + " does not derive from " +
+                                        GComponentBaseClass->ClassName());
+  }
+  TComponentRegistry& registry = ComponentRegistry();
+  for (TClass componentClass : AClasses) {
     if (registry.Find(componentClass)) continue;
     registry.Components.Items().push_back({APage, componentClass});
     registry.Procedures.Run(componentClass);
     registry.Notifies.Run(componentClass);
   }
+}
+
+TComponentsRegistration::TComponentsRegistration(const String& APage, const std::vector<TClass>& AClasses) {
+  GuardModuleRegistration([&] { RegisterComponents(APage, AClasses); });
 }
 
 TRef<IArrayList<TClass>> GetRegisteredComponents() {

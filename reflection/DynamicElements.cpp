@@ -19,7 +19,7 @@ bool ElementBelongsTo(const TDynamicElement& AEntry, const TModule* AModule) {
 }
 
 std::vector<TDynamicElement>& DynamicElements() {
-  static TModuleSwept<std::vector<TDynamicElement>> registry(ElementBelongsTo);
+  static TModuleSwept<std::vector<TDynamicElement>> registry("dynamic elements", ElementBelongsTo);
   return registry.Items();
 }
 

@@ -61,7 +61,8 @@ struct TClassMemberTable {
   std::function<void(TObject*)> InitInstance;
 };
 
-// Keeps a class's table; the tables of a module leave with it.
+// Keeps a class's table; the tables of a module leave with it. Raises EModuleError for a member
+// published twice.
 void RegisterMemberTable(std::unique_ptr<TClassMemberTable> ATable);
 // The table of exactly this class; nil when it published nothing.
 const TClassMemberTable* FindMemberTable(TClass AClass);

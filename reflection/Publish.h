@@ -20,6 +20,7 @@
 #include <utility>
 
 #include "reflection/MemberTable.h"
+#include "rtl/Module.h"
 
 namespace Tarvo {
 
@@ -161,6 +162,11 @@ template <class C> class TMemberTableBuilder {
 public:
   TMemberTableBuilder() { FTable->Class = C::ClassInfo(); }
   std::unique_ptr<TClassMemberTable> Take() { return std::move(FTable); }
+  // The class and the member published last, for the message of a table that failed.
+  String Place() const {
+    const String name = C::ClassInfo()->ClassName();
+    return FTable->Members.empty() ? name : name + "." + FTable->Members.back()->Name;
+  }
 
 protected:
   // The visibility of the members that follow; published at the start.
@@ -324,12 +330,19 @@ private:
   TMemberVisibility FVisibility = mvPublished;
 };
 
-// Runs a class's table once, when its module starts, and keeps the result.
+// Runs a class's table once, when its module starts, and keeps the result. A table that fails
+// fails the module's load, with the place it stopped at.
 template <class TTable> struct TMemberTablePublication {
   TMemberTablePublication() {
-    TTable table;
-    table.Publish();
-    RegisterMemberTable(table.Take());
+    GuardModuleRegistration([] {
+      TTable table;
+      try {
+        table.Publish();
+      } catch (const std::exception& AError) {
+        throw EModuleError(table.Place() + ": " + AError.what());
+      }
+      RegisterMemberTable(table.Take());
+    });
   }
 };
 

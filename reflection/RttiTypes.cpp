@@ -204,7 +204,7 @@ struct TTypeInfoCache {
     TRef<ITypeInfo> Type;
     TRttiClassTypeInfo* Class = nullptr;
   };
-  TModuleSwept<std::unordered_map<PTypeInfo, TEntry>> Types{KeyBelongsTo};
+  TModuleSwept<std::unordered_map<PTypeInfo, TEntry>> Types{"type infos", KeyBelongsTo};
   TKeyedHandlers<TObject*> MemberChangeHandlers;
 };
 

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdio>
+#include <exception>
 #include <memory>
 
 #include "rtl/Exceptions.h"
@@ -26,6 +28,9 @@ std::string ResourceKey(const std::string& AName) {
 struct TModuleRegistry {
   std::vector<std::unique_ptr<TModule>> Modules;
   TKeyedHandlers<TModule*> UnloadProcs;
+  TKeyedHandlers<std::map<std::string, std::size_t>&> SizeReports;
+  // While LoadModule opens a module: the first of its registrations that failed, if any.
+  std::string* OpeningFailure = nullptr;
 
   TModule* ByBase(const void* ABase) {
     for (auto& m : Modules)
@@ -37,6 +42,14 @@ struct TModuleRegistry {
 TModuleRegistry& Registry() {
   static TModuleRegistry registry;
   return registry;
+}
+
+// Runs the unload procedures with the module, forgets it and closes it.
+void Close(TModule* AModule, void* AHandle) {
+  TModuleRegistry& registry = Registry();
+  registry.UnloadProcs.Run(AModule);
+  std::erase_if(registry.Modules, [AModule](const auto& m) { return m.get() == AModule; });
+  dlclose(AHandle);
 }
 
 } // namespace
@@ -73,37 +86,78 @@ TModule* FindModule(const void* AAddress) {
 }
 
 TModule* LoadModule(const std::string& APath) {
+  TModuleRegistry& registry = Registry();
+  std::string failure;
+  std::string* const outer = std::exchange(registry.OpeningFailure, &failure);
   void* handle = dlopen(APath.c_str(), RTLD_NOW | RTLD_LOCAL);
+  registry.OpeningFailure = outer;
+  const std::string refusal = "cannot load module " + APath + ": ";
   if (!handle) {
     const char* error = dlerror();
-    throw EModuleError("Cannot load module '" + APath + "': " + (error ? error : "unknown error"));
+    throw EModuleError(refusal + (error ? error : "unknown error"));
   }
   link_map* map = nullptr;
   TModule* module = nullptr;
   if (dlinfo(handle, RTLD_DI_LINKMAP, &map) == 0 && map) module = FindModule(map->l_ld);
   if (!module) {
     dlclose(handle);
-    throw EModuleError("Cannot locate module '" + APath + "' after loading it");
+    throw EModuleError(refusal + "it cannot be found among the modules after opening");
   }
-  if (module->FHandle) dlclose(handle); // opened before: keep one reference
-  else module->FHandle = handle;
+  if (module->FHandle) {
+    dlclose(handle); // opened before: keep one reference
+  } else if (!failure.empty()) {
+    Close(module, handle);
+    throw EModuleError(refusal + failure);
+  } else {
+    module->FHandle = handle;
+  }
   ++module->FLoadCount;
   return module;
 }
 
 void UnloadModule(TModule* AModule) {
-  TModuleRegistry& registry = Registry();
   if (!AModule || !AModule->IsLoaded()) throw EModuleError("Only a module opened by LoadModule can be unloaded");
   if (--AModule->FLoadCount > 0) return;
-  registry.UnloadProcs.Run(AModule);
-  void* handle = AModule->FHandle;
-  std::erase_if(registry.Modules, [AModule](const auto& m) { return m.get() == AModule; });
-  dlclose(handle);
+  Close(AModule, AModule->FHandle);
+}
+
+void GuardModuleRegistration(const std::function<void()>& ARegistration) {
+  std::string message;
+  try {
+    ARegistration();
+    return;
+  } catch (const std::exception& AError) {
+    message = AError.what();
+  } catch (...) {
+    message = "an exception of an unknown type";
+  }
+  std::string* const failure = Registry().OpeningFailure;
+  if (failure) {
+    if (failure->empty()) *failure = message;
+    return;
+  }
+  std::fprintf(stderr, "error: a registration failed at start: %s\n", message.c_str());
+  std::abort();
 }
 
 int AddModuleUnloadProc(TModuleUnloadProc AProc) { return Registry().UnloadProcs.Add(std::move(AProc)); }
 
 void RemoveModuleUnloadProc(int AKey) { Registry().UnloadProcs.Remove(AKey); }
+
+int AddSweptRegistry(std::string AName, std::function<std::size_t()> ASize) {
+  return Registry().SizeReports.Add(
+      [AName = std::move(AName), ASize = std::move(ASize)](std::map<std::string, std::size_t>& ASizes) {
+        ASizes[AName] += ASize();
+      });
+}
+
+void RemoveSweptRegistry(int AKey) { Registry().SizeReports.Remove(AKey); }
+
+std::map<std::string, std::size_t> SweptRegistrySizes() {
+  std::map<std::string, std::size_t> sizes;
+  Registry().SizeReports.Run(sizes);
+  return sizes;
+}
 
 std::vector<TModule*> Modules() {
   std::vector<TModule*> result;

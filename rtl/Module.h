@@ -59,8 +59,16 @@ TModule* FindModule(const void* AAddress);
 
 // Opens a shared library as a module; its static registrations run while it opens. Opening a
 // module that is open already gives the same module and counts: each load is balanced by one
-// UnloadModule. Raises EModuleError when it cannot be opened.
+// UnloadModule. Raises EModuleError "cannot load module <file>: <reason>" when it cannot be
+// opened, or when one of its registrations failed: then what it had registered is swept out and
+// it is closed again.
 TModule* LoadModule(const std::string& APath);
+
+// Runs one of the registrations a module makes while it opens (a static initialiser, which must
+// not throw). What ARegistration raises does not leave: LoadModule refuses the module with the
+// first failure's message. A registration of the program itself, outside LoadModule, that fails
+// ends the program with the message on the standard error.
+void GuardModuleRegistration(const std::function<void()>& ARegistration);
 // Balances one LoadModule. The last one runs every unload procedure with the module, then
 // forgets its classes and resources and closes it; the module object is gone afterwards.
 void UnloadModule(TModule* AModule);
@@ -72,6 +80,12 @@ void RemoveModuleUnloadProc(int AKey);
 
 // Every module seen so far, in the order they were met.
 std::vector<TModule*> Modules();
+
+// The registries that sweep a module's entries out as it unloads report their sizes by name, so
+// that what a module leaves behind can be seen.
+int AddSweptRegistry(std::string AName, std::function<std::size_t()> ASize);
+void RemoveSweptRegistry(int AKey);
+std::map<std::string, std::size_t> SweptRegistrySizes();
 
 // Names a byte blob compiled into a module; place at namespace scope in the module's source.
 struct TResourceRegistration {

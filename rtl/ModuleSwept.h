@@ -18,13 +18,18 @@ public:
   using TEntry = std::iter_value_t<typename TContainer::iterator>;
   using TRefersTo = bool (*)(const TEntry& AEntry, const TModule* AModule);
 
-  explicit TModuleSwept(TRefersTo ARefersTo)
+  // AName is the registry's name among the sizes SweptRegistrySizes reports.
+  TModuleSwept(std::string AName, TRefersTo ARefersTo)
       : FKey(AddModuleUnloadProc([this, ARefersTo](TModule* AModule) {
           std::erase_if(FItems, [&](const TEntry& AEntry) { return ARefersTo(AEntry, AModule); });
-        })) {}
+        })),
+        FSizeKey(AddSweptRegistry(std::move(AName), [this] { return std::size(FItems); })) {}
   TModuleSwept(const TModuleSwept&) = delete;
   TModuleSwept& operator=(const TModuleSwept&) = delete;
-  ~TModuleSwept() { RemoveModuleUnloadProc(FKey); }
+  ~TModuleSwept() {
+    RemoveSweptRegistry(FSizeKey);
+    RemoveModuleUnloadProc(FKey);
+  }
 
   TContainer& Items() { return FItems; }
   const TContainer& Items() const { return FItems; }
@@ -32,6 +37,7 @@ public:
 private:
   TContainer FItems;
   int FKey;
+  int FSizeKey;
 };
 
 // The usual question for maps keyed by class or type record: is the key the module's.

@@ -43,7 +43,15 @@ TObject* ObjectOf(IInterface* AIntf) {
 }
 
 TClassRegistration::TClassRegistration(TClass AClass) {
-  if (TModule* module = AClass->Module()) module->AddClass(AClass);
+  GuardModuleRegistration([AClass] {
+    TModule* module = AClass->Module();
+    if (!module) return;
+    // Designs name classes: a second class of a name would be shadowed without a word.
+    if (const TClass other = FindClass(AClass->ClassName()); other && other != AClass)
+      throw EModuleError(std::string(AClass->ClassName()) + ": the class name is taken by " +
+                         (other->Module() ? other->Module()->FileName() : std::string("another module")));
+    module->AddClass(AClass);
+  });
 }
 
 TClass FindClass(const std::string& AName) {

@@ -1,4 +1,6 @@
 #include "runtime/Component.h"
+
+#include "reflection/ComponentRegistration.h"
 #include "runtime/DynamicElement.h"
 
 #include <algorithm>
@@ -74,6 +76,8 @@ void TChangeNotifyPersistent::Changed() {
 // ---- TComponent ----
 
 TARVO_IMPLEMENT_CLASS(TComponent)
+// Only components go on a palette.
+static const bool GComponentBaseNamed = (SetComponentBaseClass(TComponent::ClassInfo()), true);
 TARVO_IMPLEMENT_ENUM(TOperation)
 TARVO_IMPLEMENT_ENUM(TComponentStateFlag)
 TARVO_IMPLEMENT_SET(TComponentState, TComponentStateFlag)

@@ -49,7 +49,7 @@ TARVO_PUBLISH(TSignalFilter) {
 }
 
 namespace {
-const TSignalPaletteRegistration FilterRegistration(TSignalFilter::ClassInfo());
+TARVO_REGISTER_COMPONENTS(SignalPalettePage, TSignalFilter)
 
 // Longer windows cost more than a sample filter is worth.
 constexpr Integer MaxWindow = 64;

@@ -73,7 +73,7 @@ TARVO_PUBLISH(TSignalGenerator) {
 }
 
 namespace {
-const TSignalPaletteRegistration GeneratorRegistration(TSignalGenerator::ClassInfo());
+TARVO_REGISTER_COMPONENTS(SignalPalettePage, TSignalGenerator)
 
 } // namespace
 

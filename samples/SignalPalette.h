@@ -11,8 +11,4 @@ using namespace Tarvo;
 
 inline constexpr const char* SignalPalettePage = "Signal";
 
-struct TSignalPaletteRegistration {
-  explicit TSignalPaletteRegistration(TClass AClass) { RegisterComponents(SignalPalettePage, {AClass}); }
-};
-
 } // namespace Signals

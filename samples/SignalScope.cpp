@@ -72,7 +72,7 @@ TARVO_PUBLISH(TSignalScope) {
 }
 
 namespace {
-const TSignalPaletteRegistration ScopeRegistration(TSignalScope::ClassInfo());
+TARVO_REGISTER_COMPONENTS(SignalPalettePage, TSignalScope)
 } // namespace
 
 TSignalScope::TSignalScope(TComponent* AOwner) : TImplements(AOwner) { SetColor(clBlack); }

@@ -168,6 +168,7 @@ TEST(HeadlessToolTest, BadInputIsOneClearMessageWithExitCodeTwoAndNothingPrinted
   const String design = testing::TempDir() + "tarvo-inspect-bad-design.json";
   std::ofstream(design)
       << R"({"components": [{"class": "TSignalGenerator", "name": "G", "properties": {"Pitch": "1"}}]})";
+  const String faulty = String(TARVO_FAULTY_MODULE_DIR) + "/libtarvo_faulty_DuplicateMember.so";
   const struct {
     const char* Name;
     String Arguments;
@@ -197,7 +198,9 @@ TEST(HeadlessToolTest, BadInputIsOneClearMessageWithExitCodeTwoAndNothingPrinted
       {"picture too narrow", "--png x.png --width 5", "--width expects a number of pixels from 100 to 4000, not \"5\""},
       {"unknown palette", "--palette blue", "--palette expects light or dark, not \"blue\""},
       {"list asked twice", "--values SampleRate --values Waveform", "--values may be given once"},
-      {"bad design", "--design " + design, design + ": Unknown property 'Pitch' of component 'G' (TSignalGenerator)"}};
+      {"bad design", "--design " + design, design + ": Unknown property 'Pitch' of component 'G' (TSignalGenerator)"},
+      {"module with a mistake", "--module " + faulty,
+       "cannot load module " + faulty + ": TFaultyGadget.level: the member is published twice"}};
   Testing::ForEachRow(cases, [](const auto& bad) {
     const TToolRun run = RunTool(bad.Arguments);
     EXPECT_EQ(run.ExitCode, 2);

@@ -9,18 +9,21 @@
 #include "reflection/RttiTypes.h"
 #include "reflection/TypeInfo.h"
 #include "rtl/Module.h"
+#include "runtime/Component.h"
 #include "tests/support/NamedRows.h"
 
 // Registrations stay for the life of the process, so each test registers classes of its own.
 #define DESIGN_TEST_CLASS(AClass, AParent)                                                                             \
   class AClass : public AParent {                                                                                      \
     TARVO_CLASS(AClass, AParent)                                                                                       \
+  public:                                                                                                              \
+    using AParent::AParent;                                                                                            \
   };                                                                                                                   \
   TARVO_IMPLEMENT_CLASS(AClass)
 
 namespace Tarvo {
 
-DESIGN_TEST_CLASS(TDesignTestComponent, TObject)
+DESIGN_TEST_CLASS(TDesignTestComponent, TComponent)
 DESIGN_TEST_CLASS(TDesignTestShape, TDesignTestComponent)
 DESIGN_TEST_CLASS(TDesignTestLabel, TDesignTestComponent)
 DESIGN_TEST_CLASS(TDesignTestRoundShape, TDesignTestShape)
@@ -160,10 +163,10 @@ TEST(DesignComponentsTest, DynamicElementsByBaseClass) {
 // Unloading a module sweeps its classes from the registrations; loaded again, they are new.
 TEST(DesignComponentsTest, UnloadSweepsAModulesClasses) {
   TModule* module = LoadModule(TARVO_TEST_MODULE_PATH);
-  const TClass thing = FindClass("TTestModuleThing");
-  ASSERT_NE(thing, nullptr);
+  const TClass thing = FindClass("TTestModuleThing"), part = FindClass("TTestModulePart");
+  ASSERT_TRUE(thing && part);
   const TClass probe = TDesignTestProbe::ClassInfo(), widget = DesignTestWidget::ClassInfo();
-  RegisterComponents("Module", {thing, probe});
+  RegisterComponents("Module", {part, probe});
   RegisterDynamicElement(TObject::ClassInfo(), thing);
   RegisterDynamicElement(thing, thing);
   RegisterDynamicElement(TObject::ClassInfo(), widget);
@@ -180,10 +183,10 @@ TEST(DesignComponentsTest, UnloadSweepsAModulesClasses) {
   // Back again, the module's class is new to the registry and announced once more.
   int announced = 0;
   const int key = RegisterComponentRegisteredNotify([&announced](TClass AClass) {
-    if (String(AClass->ClassName()) == "TTestModuleThing") ++announced;
+    if (String(AClass->ClassName()) == "TTestModulePart") ++announced;
   });
   module = LoadModule(TARVO_TEST_MODULE_PATH);
-  RegisterComponents("Module", {FindClass("TTestModuleThing")});
+  RegisterComponents("Module", {FindClass("TTestModulePart")});
   UnregisterComponentRegisteredNotify(key);
   EXPECT_EQ(announced, 1);
   UnloadModule(module);

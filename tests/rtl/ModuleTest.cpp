@@ -6,6 +6,7 @@
 #include "reflection/TypeInfo.h"
 #include "rtl/Module.h"
 #include "rtl/Object.h"
+#include "tests/support/NamedRows.h"
 
 namespace Tarvo {
 namespace {
@@ -72,6 +73,46 @@ TEST(ModuleTest, UnloadSweepsTheModulesClassesAndResources) {
     EXPECT_EQ(removedRuns, 0);
     EXPECT_EQ(DescribeModuleThing(), "no class");
   }
+}
+
+// What the modules hold: every swept registry's size, and the modules with their classes.
+std::map<std::string, std::size_t> RegistrySizes() {
+  std::map<std::string, std::size_t> sizes = SweptRegistrySizes();
+  for (TModule* module : Modules()) {
+    ++sizes["modules"];
+    sizes["classes"] += module->Classes().size();
+  }
+  return sizes;
+}
+
+// A module with a mistake fails to load with the class and member named, sweeps out what it
+// registered before the failure, and leaves the process as it found it.
+TEST(ModuleTest, AModuleWhoseRegistrationFailsIsRefusedByNameAndLeavesNothingBehind) {
+  TModule* testModule = LoadModule(TARVO_TEST_MODULE_PATH);
+  const std::map<std::string, std::size_t> before = RegistrySizes();
+  const struct {
+    const char* Name;
+    std::string Message;
+  } rows[] = {
+      {"DuplicateMember", "TFaultyGadget.level: the member is published twice"},
+      {"TakenClassName", std::string("TTestModuleThing: the class name is taken by ") + TARVO_TEST_MODULE_PATH},
+      {"NonComponent", "TFaultyGadget: only components go on a palette, and TFaultyGadget does not derive from "
+                       "TComponent"},
+      {"FailingTable", "TFaultyGadget.Level: the gadget cannot publish"},
+  };
+  Testing::ForEachRow(rows, [&](const auto& ARow) {
+    const std::string path = std::string(TARVO_FAULTY_MODULE_DIR) + "/libtarvo_faulty_" + ARow.Name + ".so";
+    try {
+      LoadModule(path);
+      ADD_FAILURE() << "the module loaded";
+    } catch (const EModuleError& AError) {
+      EXPECT_EQ(std::string(AError.what()), "cannot load module " + path + ": " + ARow.Message);
+    }
+    EXPECT_EQ(RegistrySizes(), before);
+    EXPECT_EQ(FindClass("TFaultyGadget"), nullptr);
+    EXPECT_EQ(FindClass("TTestModuleThing")->Module(), testModule);
+  });
+  UnloadModule(testModule);
 }
 
 } // namespace

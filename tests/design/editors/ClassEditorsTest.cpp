@@ -29,22 +29,22 @@ public:
   Integer FHidden = 0;
 };
 
-class TShape : public TDynamicElement {
-  TARVO_CLASS(TShape, TDynamicElement)
+class TFigure : public TDynamicElement {
+  TARVO_CLASS(TFigure, TDynamicElement)
 public:
   using TDynamicElement::TDynamicElement;
-  ~TShape() override { ++Freed; }
+  ~TFigure() override { ++Freed; }
   static inline Integer Freed = 0;
 };
-class TRound : public TShape {
-  TARVO_CLASS(TRound, TShape)
+class TRound : public TFigure {
+  TARVO_CLASS(TRound, TFigure)
 public:
-  using TShape::TShape;
+  using TFigure::TFigure;
 };
-class TSquare : public TShape {
-  TARVO_CLASS(TSquare, TShape)
+class TSquare : public TFigure {
+  TARVO_CLASS(TSquare, TFigure)
 public:
-  using TShape::TShape;
+  using TFigure::TFigure;
 };
 
 class THolder : public TComponent {
@@ -58,12 +58,12 @@ public:
   TQuiet* GetQuiet() const { return const_cast<TQuiet*>(&FQuietObject); }
   TLevels* FMissing = nullptr;
   TComponent* FLink = nullptr;
-  TShape* FShape = nullptr; // written straight into the field: no setter frees the old one
+  TFigure* FShape = nullptr; // written straight into the field: no setter frees the old one
 };
 
 TARVO_IMPLEMENT_CLASS(TLevels)
 TARVO_IMPLEMENT_CLASS(TQuiet)
-TARVO_IMPLEMENT_CLASS(TShape)
+TARVO_IMPLEMENT_CLASS(TFigure)
 TARVO_IMPLEMENT_CLASS(TRound)
 TARVO_IMPLEMENT_CLASS(TSquare)
 TARVO_IMPLEMENT_CLASS(THolder)
@@ -189,25 +189,25 @@ TEST_F(ClassEditorsTest, AComponentIsPickedByNameAndAnUnknownNameWritesNil) {
 }
 
 TEST_F(ClassEditorsTest, ADynamicElementIsReplacedOnEverySelectedObjectAndTheOldOnesFreed) {
-  RegisterDynamicElement(TShape::ClassInfo(), TRound::ClassInfo());
-  RegisterDynamicElement(TShape::ClassInfo(), TSquare::ClassInfo());
+  RegisterDynamicElement(TFigure::ClassInfo(), TRound::ClassInfo());
+  RegisterDynamicElement(TFigure::ClassInfo(), TSquare::ClassInfo());
   const TRef<TDynamicElementPropertyEditor> editor = Editor<TDynamicElementPropertyEditor>("Shape");
   EXPECT_EQ(editor->GetStringListValues()->ToArray(), (std::vector<String>{"Round shape", "TSquare"}));
   EXPECT_EQ(editor->GetDisplayValue(nullptr), "(none)");
 
   editor->SetStringValue("TRound"); // the class name answers as well as the shown name
-  TShape* firstRound = FFirst.FShape;
+  TFigure* firstRound = FFirst.FShape;
   ASSERT_NE(dynamic_cast<TRound*>(firstRound), nullptr);
   ASSERT_NE(dynamic_cast<TRound*>(FSecond.FShape), nullptr);
   EXPECT_NE(firstRound, FSecond.FShape);
   EXPECT_EQ(firstRound->GetOwner(), &FFirst);
 
-  const Integer freed = TShape::Freed;
+  const Integer freed = TFigure::Freed;
   editor->SetStringValue("TSquare");
-  EXPECT_EQ(TShape::Freed, freed + 2) << "the field has no setter to free the old elements";
+  EXPECT_EQ(TFigure::Freed, freed + 2) << "the field has no setter to free the old elements";
   EXPECT_EQ(editor->GetDisplayValue(nullptr), "TSquare");
   editor->SetStringValue("Triangle");
-  EXPECT_EQ(TShape::Freed, freed + 2) << "an unknown class changes nothing";
+  EXPECT_EQ(TFigure::Freed, freed + 2) << "an unknown class changes nothing";
   EXPECT_EQ(FLog, (std::vector<String>{"Modified", "Modified"}));
 }
 

@@ -1,6 +1,8 @@
-// A module of its own for the module tests: a published class with an enumeration, and a resource.
+// A module of its own for the module tests: a published class with an enumeration, a component,
+// and a resource.
 #include "reflection/Publish.h"
 #include "rtl/Module.h"
+#include "runtime/Component.h"
 
 namespace Tarvo {
 
@@ -19,6 +21,13 @@ TARVO_PUBLISH(TTestModuleThing) {
   Property("Value", &TTestModuleThing::Value, &TTestModuleThing::Value).Default(1);
   Property("Mood", &TTestModuleThing::Mood, &TTestModuleThing::Mood);
 }
+
+class TTestModulePart : public TComponent {
+  TARVO_CLASS(TTestModulePart, TComponent)
+public:
+  using TComponent::TComponent;
+};
+TARVO_IMPLEMENT_CLASS(TTestModulePart)
 
 namespace {
 const char Greeting[] = "hello from the module";
