@@ -18,6 +18,10 @@ void RegisterDesignEditors() {
   RegisterDateTimeEditors();
   RegisterVariantEditors();
   RegisterClassEditors();
+  RegisterFontEditors();
+  RegisterIdentifierEditors();
+  RegisterCursorEditors();
+  RegisterCanvasEnumEditors();
 }
 
 } // namespace Tarvo

@@ -28,6 +28,10 @@ TARVO_PUBLISH(TSignalScope) {
       .Attr<PropertyListDesignValueAttribute>("dBV");
   Property("TitleFont", &TSignalScope::GetTitleFont, &TSignalScope::SetTitleFont);
   Property("Display", &TSignalScope::GetDisplay, &TSignalScope::SetDisplay);
+  Property("TracePen", &TSignalScope::GetTracePen, &TSignalScope::SetTracePen);
+  Property("ScreenBrush", &TSignalScope::GetScreenBrush, &TSignalScope::SetScreenBrush);
+  Property("FreezeShortCut", &TSignalScope::GetFreezeShortCut, &TSignalScope::SetFreezeShortCut, &TypeInfo_TShortCut)
+      .Default(TShortCut(0));
   Property("Timebase", &TSignalScope::GetTimebase, &TSignalScope::SetTimebase).Default(0.01);
   Property("Divisions", &TSignalScope::GetDivisions, &TSignalScope::SetDivisions).Default(Byte(10));
   Property("Grid", &TSignalScope::GetGrid, &TSignalScope::SetGrid).Default(true);

@@ -45,6 +45,14 @@ public:
   // The scope's own: setting one copies the value in.
   TFont* GetTitleFont() const { return FTitleFont.get(); }
   void SetTitleFont(TFont* AValue) { FTitleFont->Assign(AValue); }
+  // The trace's line and the screen's fill; the scope's own, as the title font is.
+  TPen* GetTracePen() const { return FTracePen.get(); }
+  void SetTracePen(TPen* AValue) { FTracePen->Assign(AValue); }
+  TBrush* GetScreenBrush() const { return FScreenBrush.get(); }
+  void SetScreenBrush(TBrush* AValue) { FScreenBrush->Assign(AValue); }
+  // The key that freezes the trace; 0 for none.
+  TShortCut GetFreezeShortCut() const { return FFreezeShortCut; }
+  void SetFreezeShortCut(TShortCut AValue) { FFreezeShortCut = AValue; }
   TDisplaySettings* GetDisplay() const { return FDisplay.get(); }
   void SetDisplay(TDisplaySettings* AValue) { FDisplay->Assign(AValue); }
   // Seconds per division.
@@ -101,6 +109,9 @@ private:
   TComponent* FSource = nullptr;
   String FVerticalUnit = "V";
   TOwnedObject<TFont> FTitleFont{Construct<TFont>()};
+  TOwnedObject<TPen> FTracePen{Construct<TPen>()};
+  TOwnedObject<TBrush> FScreenBrush{Construct<TBrush>()};
+  TShortCut FFreezeShortCut = 0;
   TOwnedObject<TDisplaySettings> FDisplay{Construct<TDisplaySettings>()};
   Double FTimebase = 0.01;
   Byte FDivisions = 10;

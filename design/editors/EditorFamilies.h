@@ -28,5 +28,13 @@ void RegisterDateTimeEditors();
 void RegisterVariantEditors();
 // Objects, references to components, owned elements of a chosen class, and interfaces.
 void RegisterClassEditors();
+// Font objects picked in the font dialog.
+void RegisterFontEditors();
+// Charsets, modal results and shortcuts by name.
+void RegisterIdentifierEditors();
+// Cursors by name, with their pictures.
+void RegisterCursorEditors();
+// Brush and pen styles, with their samples.
+void RegisterCanvasEnumEditors();
 
 } // namespace Tarvo

@@ -115,7 +115,7 @@ TEST(HeadlessToolTest, ObjectRowsShowSummariesAndArePickedByNameOrInTheirDialogs
   TToolRun run = RunTool("--select Scope1 --set Source=Generator2 --set Display=Night --expand Display");
   ASSERT_EQ(run.ExitCode, 0) << run.Err;
   for (const char* line : {"\nSource = Generator2\n", "\nDisplay = Night  * +\n  Intensity = 80\n",
-                           "\n  Title = Night  *\n", "\nTitleFont = (Charset=1,"})
+                           "\n  Title = Night  *\n", "\nTitleFont = (Charset=DEFAULT_CHARSET,"})
     EXPECT_NE(run.Out.find(line), String::npos) << line << run.Out;
   EXPECT_EQ(run.Out.find(" @ "), String::npos) << "no address in any row";
 
@@ -128,7 +128,7 @@ TEST(HeadlessToolTest, ObjectRowsShowSummariesAndArePickedByNameOrInTheirDialogs
 
   EXPECT_EQ(RunTool("--values NoiseShape").Out, "White noise\nPink noise\nBrown noise\n");
   EXPECT_EQ(RunTool("--values Preset").Out, "Test tone\nCalibration\nSweep start\nCustom\n");
-  EXPECT_EQ(RunTool("--select Filter1 --values Input").Out, "Generator1\nGenerator2\nFilter1\nScope1\nTriggerMark\nBaseline\n");
+  EXPECT_EQ(RunTool("--select Filter1 --values Input").Out, "Generator1\nGenerator2\nFilter1\nScope1\nTriggerMark\nBaseline\nApplyButton\n");
 }
 
 // The pictures are the grid widget's own drawing: its tests check the pixels; here, that the tool
@@ -154,13 +154,58 @@ TEST(HeadlessToolTest, PngDrawsTheGridOrTheListAtTheAskedWidthInTheAskedPalette)
   EXPECT_LT(listImage.height(), lightImage.height());
 }
 
+// The scope's samples where the grid puts them: rows of 18 under the 25 of the search bar, the value
+// cell from 142. The cursor is the filter's one row; the pen's and the brush's Style the third row
+// under their expanded object.
+TEST(HeadlessToolTest, PngShowsTheCursorPenAndBrushSamplesInBothPalettes) {
+  const auto gray = [](const QImage& AImage, int AX, int AY) { return qGray(AImage.pixel(AX, AY)); };
+  const auto count = [&](const QImage& AImage, const QRect& ARect, auto ATest) {
+    int result = 0;
+    for (int y = ARect.top(); y <= ARect.bottom(); ++y)
+      for (int x = ARect.left(); x <= ARect.right(); ++x) result += ATest(gray(AImage, x, y));
+    return result;
+  };
+  const auto dark = [](int AGray) { return AGray < 100; };
+  const auto light = [](int AGray) { return AGray > 200; };
+  for (const char* palette : {"light", "dark"}) {
+    SCOPED_TRACE(palette);
+    const bool isDark = String(palette) == "dark";
+    const auto picture = [&](const String& AArguments) {
+      const String file = testing::TempDir() + "samples-" + std::to_string(getpid()) + ".png";
+      const TToolRun run = RunTool("--select Scope1 --palette " + String(palette) + " " + AArguments + " --png " + file);
+      EXPECT_EQ(run.ExitCode, 0) << run.Err;
+      return QImage(QString::fromStdString(file));
+    };
+    // crCross on white in a pale frame, scaled to 16 by 16, whatever the palette.
+    const QImage cursor = picture("--filter Cursor");
+    const QRect cursorSample(142, 25, 16, 16);
+    EXPECT_TRUE(light(gray(cursor, 144, 27)) && light(gray(cursor, 156, 39)));
+    EXPECT_GT(count(cursor, QRect(149, 26, 2, 14), [](int AGray) { return AGray < 160; }), 10);
+    EXPECT_GT(count(cursor, cursorSample, light), 150);
+    // psDash: the dashes in the text colour over the pale frame, the inside in the window colour.
+    const QImage pen = picture("--expand TracePen --filter TracePen");
+    const QRect penTop(143, 62, 16, 1), penInside(144, 63, 14, 14);
+    EXPECT_EQ(count(pen, penInside, isDark ? dark : light), 14 * 14);
+    const int dashes = count(pen, penTop, dark), pale = count(pen, penTop, light);
+    EXPECT_TRUE(isDark ? pale == 16 : dashes > 0 && pale > 0) << dashes << " " << pale;
+    // bsDiagCross: the outline in the text colour, the hatch of both colours inside.
+    const QImage brush = picture("--expand ScreenBrush --filter ScreenBrush");
+    const auto text = isDark ? light : dark;
+    for (const QPoint corner : {QPoint(143, 62), QPoint(158, 62), QPoint(143, 77), QPoint(158, 77)})
+      EXPECT_TRUE(text(gray(brush, corner.x(), corner.y())));
+    const QRect brushInside(144, 63, 14, 14);
+    EXPECT_TRUE(count(brush, brushInside, dark) > 20 && count(brush, brushInside, light) > 20);
+  }
+}
+
 TEST(HeadlessToolTest, ListsTheRegisteredClassesWithTheirPages) {
   // The bundled module named again, twice: each load counts and is balanced by its unload.
   const String module = String(" --module ") + TARVO_SAMPLES_MODULE_PATH;
   for (const String& arguments : {String("--list-classes"), "--list-classes" + module + module}) {
     const TToolRun run = RunTool(arguments);
     ASSERT_EQ(run.ExitCode, 0) << arguments << ": " << run.Err;
-    EXPECT_EQ(run.Out, "TSignalFilter (Signal)\nTSignalGenerator (Signal)\nTSignalScope (Signal)\n") << arguments;
+    EXPECT_EQ(run.Out, "TConfirmButton (Signal)\nTSignalFilter (Signal)\nTSignalGenerator (Signal)\nTSignalScope (Signal)\n")
+        << arguments;
   }
 }
 

@@ -50,7 +50,7 @@ protected:
 const String SampleDesign = TARVO_SAMPLES_DIR "/designs/sample.json";
 
 TEST_F(SamplesTest, TheModuleRegistersItsClassesAndTakesThemAlongWhenItUnloads) {
-  const char* names[] = {"TSignalGenerator", "TSignalFilter", "TSignalScope"};
+  const char* names[] = {"TSignalGenerator", "TSignalFilter", "TSignalScope", "TConfirmButton"};
   // Their pages, and each registered once, are shown by the tool's class list.
   for (const char* name : names) {
     ASSERT_NE(FindClass(name), nullptr) << name;
@@ -118,7 +118,7 @@ TEST_F(SamplesTest, ReferencesToOtherComponentsAreClearedWhenTheyGo) {
 // same; the children of a window control are the design file test's.
 TEST_F(SamplesTest, TheBundledDesignReadsWithItsValuesReferencesAndChildrenAndWritesBackTheSame) {
   const std::vector<TComponent*> made = ReadDesignFile(SampleDesign, FRoot.get());
-  ASSERT_EQ(made.size(), 6u);
+  ASSERT_EQ(made.size(), 7u);
   TComponent *generator1 = FRoot->FindComponent("Generator1"), *generator2 = FRoot->FindComponent("Generator2");
   TComponent *filter = FRoot->FindComponent("Filter1"), *scope = FRoot->FindComponent("Scope1");
   ASSERT_TRUE(generator1 && generator2 && filter && scope);

@@ -87,8 +87,8 @@ TEST_F(DesignerWindowTest, TheTreeShowsTheDesignAndItsSelectionIsTheDesigners) {
   ASSERT_EQ(Tree().topLevelItemCount(), 4);
   EXPECT_EQ(Tree().topLevelItem(0)->text(0), "Generator1: TSignalGenerator");
   EXPECT_EQ(Tree().topLevelItem(3)->text(0), "Scope1: TSignalScope");
-  // The shapes are owned by the root like the others, yet show in the scope they sit in.
-  ASSERT_EQ(Tree().topLevelItem(3)->childCount(), 2);
+  // The shapes and the button are owned by the root like the others, yet show in the scope they sit in.
+  ASSERT_EQ(Tree().topLevelItem(3)->childCount(), 3);
   EXPECT_EQ(Tree().topLevelItem(3)->child(1)->text(0), "Baseline: TShape");
   EXPECT_EQ(DesignerSelection(), std::vector<String>{"Generator1"}) << "the first component on opening";
 
