@@ -11,6 +11,7 @@ void RegisterDesignEditors() {
   RegisterEnumEditors();
   RegisterSetEditors();
   RegisterOrdinalEditors();
+  RegisterColorEditors();
   RegisterCharEditors();
   RegisterStringEditors();
   RegisterFileNameEditors();

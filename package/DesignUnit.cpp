@@ -6,6 +6,7 @@
 #include "design/components/InjectedInterfaces.h"
 #include "design/editors/BasicEditors.h"
 #include "design/paint/PaintObjects.h"
+#include "forms/AlphaColorEditForm.h"
 #include "reflection/ComponentRegistration.h"
 #include "reflection/RttiTypes.h"
 #include "rtl/Module.h"
@@ -44,6 +45,8 @@ void FinalizeDesignUnit() {
   RemoveComponentRegistrationProcedure(GComponentRegistrationKey);
   UnregisterComponentRegisteredNotify(GComponentRegisteredKey);
   FinalizeDesignPaintObjects();
+  // The kept dialog's code goes with the package.
+  ReleaseAlphaColorEditForm();
   SetInjectedInterfaceQuery(nullptr);
   GMemberEditors = nullptr;
   GMemberCategories = nullptr;

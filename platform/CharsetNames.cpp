@@ -22,13 +22,13 @@ constexpr std::array<TCharsetEntry, 19> Charsets{{
 } // namespace
 
 Boolean CharsetToIdent(Integer ACharset, String& AIdent) {
-  const TCharsetEntry* entry = FindIdentByValue<TCharsetEntry>(Charsets, ACharset);
+  const TCharsetEntry* entry = FindValueName(Charsets, ACharset);
   if (entry) AIdent = entry->Name;
   return entry != nullptr;
 }
 
 Boolean IdentToCharset(const String& AIdent, Integer& ACharset) {
-  const TCharsetEntry* entry = FindIdentByName<TCharsetEntry>(Charsets, AIdent);
+  const TCharsetEntry* entry = FindNamedValue(Charsets, AIdent);
   if (entry) ACharset = entry->Value;
   return entry != nullptr;
 }

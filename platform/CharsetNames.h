@@ -2,7 +2,7 @@
 #pragma GCC visibility push(default)
 // The font charsets by name.
 
-#include "platform/IdentMaps.h"
+#include "platform/NamedValues.h"
 
 namespace Tarvo {
 

@@ -42,12 +42,12 @@ constexpr std::array<TCursorEntry, 22> Cursors{{
 } // namespace
 
 String CursorToString(TCursor ACursor) {
-  const TCursorEntry* entry = FindIdentByValue<TCursorEntry>(Cursors, ACursor);
+  const TCursorEntry* entry = FindValueName(Cursors, ACursor);
   return entry ? String(entry->Name) : std::to_string(ACursor);
 }
 
 Boolean IdentToCursor(const String& AIdent, Integer& ACursor) {
-  const TCursorEntry* entry = FindIdentByName<TCursorEntry>(Cursors, AIdent);
+  const TCursorEntry* entry = FindNamedValue(Cursors, AIdent);
   if (entry) ACursor = entry->Value;
   return entry != nullptr;
 }
@@ -57,7 +57,7 @@ void GetCursorValues(const TGetStrProc& AProc) {
 }
 
 std::optional<Qt::CursorShape> ScreenCursor(Integer ACursor) {
-  const TCursorEntry* entry = FindIdentByValue<TCursorEntry>(Cursors, ACursor);
+  const TCursorEntry* entry = FindValueName(Cursors, ACursor);
   if (!entry || entry->Shape == Qt::BlankCursor) return std::nullopt;
   return entry->Shape;
 }

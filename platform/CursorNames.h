@@ -6,7 +6,7 @@
 
 #include <optional>
 
-#include "platform/IdentMaps.h"
+#include "platform/NamedValues.h"
 #include "runtime/NamedTypes.h"
 
 namespace Tarvo {

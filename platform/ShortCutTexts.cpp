@@ -3,7 +3,7 @@
 #include <array>
 #include <vector>
 
-#include "platform/IdentMaps.h"
+#include "platform/NamedValues.h"
 
 namespace Tarvo {
 
@@ -39,7 +39,7 @@ constexpr TShortCut KeyMask = 0xFF;
 } // namespace
 
 String ShortCutToText(TShortCut AShortCut) {
-  const TKeyName* key = FindIdentByValue<TKeyName>(KeyNames(), AShortCut & KeyMask);
+  const TKeyName* key = FindValueName(KeyNames(), AShortCut & KeyMask);
   if (!key) return {};
   String text;
   for (const TModifier& modifier : Modifiers)
@@ -59,7 +59,7 @@ TShortCut TextToShortCut(const String& AText) {
         found = true;
       }
   }
-  const TKeyName* key = FindIdentByName<TKeyName>(KeyNames(), rest);
+  const TKeyName* key = FindNamedValue(KeyNames(), rest);
   return key ? TShortCut(flags | key->Value) : TShortCut(0);
 }
 

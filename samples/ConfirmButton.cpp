@@ -14,7 +14,7 @@ TARVO_PUBLISH(TConfirmButton) {
 }
 
 namespace {
-const TSignalPaletteRegistration ConfirmButtonRegistration(TConfirmButton::ClassInfo());
+TARVO_REGISTER_COMPONENTS(SignalPalettePage, TConfirmButton)
 } // namespace
 
 } // namespace Signals

@@ -37,6 +37,8 @@ TARVO_PUBLISH(TSignalScope) {
   Property("Grid", &TSignalScope::GetGrid, &TSignalScope::SetGrid).Default(true);
   Property("TraceColor", &TSignalScope::GetTraceColor, &TSignalScope::SetTraceColor, &TypeInfo_TColor)
       .Default(TSignalScope::DefaultTraceColor);
+  Property("Background", &TSignalScope::GetBackground, &TSignalScope::SetBackground, &TypeInfo_TAlphaColor)
+      .Default(TSignalScope::DefaultBackground);
   Property("Caption", &TSignalScope::GetCaption, &TSignalScope::SetCaption);
   Property("Gain", &TSignalScope::GetGain, &TSignalScope::SetGain)
       .Default(Byte(1))

@@ -25,6 +25,8 @@ class TSignalScope : public TImplements<TWinControl, ILockItem> {
 
 public:
   static constexpr TColor DefaultTraceColor = 0x00FF00;
+  // Half transparent, so that the panel's colour shows through the screen.
+  static constexpr TAlphaColor DefaultBackground = 0x80204060u;
   static constexpr Cardinal DefaultSampleCount = 1000;
   static constexpr Integer MaxChannel = 8;
   static constexpr Integer MaxOffset = 100;
@@ -64,6 +66,9 @@ public:
   void SetGrid(Boolean AValue) { FGrid = AValue; }
   TColor GetTraceColor() const { return FTraceColor; }
   void SetTraceColor(TColor AValue) { FTraceColor = AValue; }
+  // The screen behind the trace.
+  TAlphaColor GetBackground() const { return FBackground; }
+  void SetBackground(TAlphaColor AValue) { FBackground = AValue; }
   const String& GetCaption() const { return FCaption; }
   void SetCaption(const String& AValue) { FCaption = AValue; }
   // Vertical amplification, 1 to 255.
@@ -117,6 +122,7 @@ private:
   Byte FDivisions = 10;
   Boolean FGrid = true;
   TColor FTraceColor = DefaultTraceColor;
+  TAlphaColor FBackground = DefaultBackground;
   String FCaption;
   Byte FGain = 1;
   Cardinal FSampleCount = DefaultSampleCount;

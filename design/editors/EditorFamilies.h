@@ -14,6 +14,8 @@ void RegisterEnumEditors();
 void RegisterSetEditors();
 // Integers of every width, with Cardinal registered by type.
 void RegisterOrdinalEditors();
+// TColor and TAlphaColor, registered by type.
+void RegisterColorEditors();
 // 8-bit and wide characters.
 void RegisterCharEditors();
 // Strings, multi-line strings, wide strings, font, input method and component names.

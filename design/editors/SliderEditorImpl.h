@@ -7,7 +7,6 @@
 #include "design/paint/InplaceFormController.h"
 #include "design/paint/PropertyRange.h"
 #include "forms/RangedInplaceForm.h"
-#include "reflection/RowAttributes.h"
 
 namespace Tarvo {
 
@@ -19,9 +18,7 @@ template <class TBase, class TForm> TValue TNumericSliderEditor<TBase, TForm>::I
 template <class TBase, class TForm>
 void TNumericSliderEditor<TBase, TForm>::InitCreate(TSinglePropertyEditor* AInstance) {
   TBase::InitCreate(AInstance);
-  const TRef<IMemberInfo> member = this->GetFirstMember();
-  if (member->HasCustomAttribute(PropertyFixedListDesignAttribute::ClassInfo(), true)) return;
-  if (member->GetVisibility() != mvPublished) return;
+  if (!OffersInplaceForm(this->GetFirstMember())) return;
   // The controller lives as long as the editor, so the editor may be captured bare.
   FFormController = New<TInplaceEditorFormController<TForm>>([](const TIGXRect&) { return new TForm(); },
                                                              [this](TForm* AForm) { MakeForm(AForm); });

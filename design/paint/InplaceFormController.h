@@ -6,8 +6,15 @@
 #include "design/paint/InplaceForm.h"
 #include "platform/ControlColor.h"
 #include "platform/EventHook.h"
+#include "reflection/RowAttributes.h"
 
 namespace Tarvo {
+
+// Whether the row of AMember offers a form in place: a published member without a fixed list.
+inline Boolean OffersInplaceForm(const TRef<IMemberInfo>& AMember) {
+  return !AMember->HasCustomAttribute(PropertyFixedListDesignAttribute::ClassInfo(), true) &&
+         AMember->GetVisibility() == mvPublished;
+}
 
 // An open form of class F with the grid handle it was opened for; the form is nil once gone.
 template <class F> struct TInplaceFormInfo {

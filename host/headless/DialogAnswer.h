@@ -10,8 +10,9 @@ class QDialog;
 
 namespace Tarvo {
 
-// Selects the list row or the tree leaf whose text is AAnswer (exactly, else in any case), or
-// puts AAnswer into the dialog's text box; answers QDialog::Accepted, or Rejected without an
+// Selects the list row or the tree leaf whose text is AAnswer (exactly, else in any case), puts
+// AAnswer into the dialog's text box, or gives a colour dialog the colour AAnswer names (a colour
+// row's name or number, "#RRGGBB"; an alpha colour row's text for the alpha colour dialog); answers QDialog::Accepted, or Rejected without an
 // answer. Raises EInspectError when the dialog offers no such choice.
 int AnswerDialog(QDialog& ADialog, const std::optional<String>& AAnswer);
 

@@ -89,9 +89,9 @@ TEST(HeadlessToolTest, JsonRowsCarryEveryFieldOfTheRow) {
 TEST(HeadlessToolTest, CategoriesFilterAndClick) {
   TToolRun run = RunTool("--select Scope1 --categories");
   ASSERT_EQ(run.ExitCode, 0) << run.Err;
-  const std::size_t visual = run.Out.find("[Visual]\n  Color = 0  *\n"),
+  const std::size_t visual = run.Out.find("[Visual]\n  Color = clBlack  *\n"),
                     behavior = run.Out.find("[Behavior]\n  Enabled = True\n"),
-                    rest = run.Out.find("[Miscellaneous]\n  Caption = ");
+                    rest = run.Out.find("[Miscellaneous]\n  Background = #80204060\n  Caption = ");
   EXPECT_TRUE(visual == 0 && visual < behavior && behavior < rest && rest != String::npos) << run.Out;
   run = RunTool("--select Scope1 --filter \"count sample\"");
   EXPECT_EQ(run.Out, "SampleCount = 4000000000  *\n");
@@ -196,6 +196,24 @@ TEST(HeadlessToolTest, PngShowsTheCursorPenAndBrushSamplesInBothPalettes) {
     const QRect brushInside(144, 63, 14, 14);
     EXPECT_TRUE(count(brush, brushInside, dark) > 20 && count(brush, brushInside, light) > 20);
   }
+}
+
+// The bundled design's trace colour, yellow, fills the swatch at the left of the value cell (the
+// name column is 140 pixels wide, the row under the search bar) in either palette; the list's
+// first name, clBlack, has a black one.
+TEST(HeadlessToolTest, PngShowsTheColourSwatchInBothPalettes) {
+  const String picture = testing::TempDir() + "grid-colour.png";
+  for (const char* palette : {"light", "dark"}) {
+    const TToolRun run = RunTool(String("--select Scope1 --filter TraceColor --palette ") + palette + " --png " + picture);
+    ASSERT_EQ(run.ExitCode, 0) << run.Err;
+    const QImage image(QString::fromStdString(picture));
+    for (const QPoint at : {QPoint(145, 28), QPoint(150, 33), QPoint(156, 39)})
+      EXPECT_EQ(image.pixel(at), qRgb(255, 255, 0)) << palette << " " << at.x() << "," << at.y();
+    EXPECT_NE(image.pixel(170, 33), qRgb(255, 255, 0)) << palette << ": the text stands right of the swatch";
+  }
+  const TToolRun run = RunTool("--select Scope1 --values TraceColor --png " + picture);
+  ASSERT_EQ(run.ExitCode, 0) << run.Err;
+  EXPECT_EQ(QImage(QString::fromStdString(picture)).pixel(6, 7), qRgb(0, 0, 0));
 }
 
 TEST(HeadlessToolTest, ListsTheRegisteredClassesWithTheirPages) {
