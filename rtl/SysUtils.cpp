@@ -31,6 +31,13 @@ bool IsDigit(char AChar) { return AChar >= '0' && AChar <= '9'; }
 
 bool SameText(std::string_view A, std::string_view B) { return A.size() == B.size() && CompareText(A, B) == 0; }
 
+std::size_t HashText(std::string_view AText) {
+  // FNV-1a over the bytes as CompareText sees them.
+  std::size_t hash = 14695981039346656037ULL;
+  for (const char c : AText) hash = (hash ^ static_cast<unsigned char>(LowerChar(c))) * 1099511628211ULL;
+  return hash;
+}
+
 int CompareText(std::string_view A, std::string_view B) {
   const std::size_t n = std::min(A.size(), B.size());
   for (std::size_t i = 0; i < n; ++i) {

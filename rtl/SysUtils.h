@@ -32,6 +32,8 @@ extern TFormatSettings FormatSettings;
 // ---- Comparison and case ----
 
 bool SameText(std::string_view A, std::string_view B);
+// Equal for texts that SameText finds equal: the key of indexes that ignore case.
+std::size_t HashText(std::string_view AText);
 int CompareText(std::string_view A, std::string_view B);
 int CompareStr(std::string_view A, std::string_view B);
 String UpperCase(std::string_view AText);

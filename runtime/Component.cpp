@@ -8,6 +8,8 @@
 #include "containers/List.h"
 #include "reflection/Publish.h"
 #include "rtl/SysUtils.h"
+#include "rtl/Utf8Text.h"
+#include "runtime/ComponentNames.h"
 
 namespace Tarvo {
 
@@ -15,6 +17,11 @@ namespace {
 
 // The state that the next TComponent constructor on this thread starts with.
 thread_local TComponentState GPendingState;
+
+void EraseLast(std::vector<TComponent*>& AList, const TComponent* AComponent) {
+  const auto found = std::find(AList.rbegin(), AList.rend(), AComponent);
+  if (found != AList.rend()) AList.erase(std::next(found).base());
+}
 
 class TPendingStateScope {
 public:
@@ -138,8 +145,13 @@ bool TComponent::GetInterface(const TGUID& AIID, void** AObj) { return QueryInte
 void TComponent::SetName(const String& ANewName) {
   if (FName == ANewName) return;
   if (!ANewName.empty() && !IsValidIdent(ANewName))
-    throw EComponentError(Format("'%s' is not a valid component name", {ANewName}));
-  if (FOwner) FOwner->ValidateRename(this, ANewName);
+    throw EComponentError(Format("'%s' is not a valid component name", {EscapedUtf8(ANewName)}));
+  if (FOwner) {
+    FOwner->ValidateRename(this, ANewName);
+    TComponentNames& names = FOwner->Names();
+    if (!FName.empty()) names.Remove(FName);
+    if (!ANewName.empty()) names.Add(ANewName, this);
+  }
   FName = ANewName;
 }
 
@@ -154,11 +166,15 @@ TComponent* TComponent::Components(Integer AIndex) const {
 }
 
 TComponent* TComponent::FindComponent(const String& AName) const {
-  if (AName.empty()) return nullptr;
-  for (TComponent* component : FComponents)
-    if (SameText(component->FName, AName)) return component;
-  return nullptr;
+  return AName.empty() || !FNames ? nullptr : FNames->Find(AName);
 }
+
+TComponentNames& TComponent::Names() {
+  if (!FNames) FNames = std::make_unique<TComponentNames>();
+  return *FNames;
+}
+
+String TComponent::UniqueComponentName(const String& ABaseName) { return Names().UniqueName(ABaseName); }
 
 void TComponent::InsertComponent(TComponent* AComponent) {
   TARVO_ASSERT(AComponent != nullptr && AComponent != this);
@@ -166,6 +182,8 @@ void TComponent::InsertComponent(TComponent* AComponent) {
   ValidateRename(AComponent, AComponent->FName);
   if (AComponent->FOwner) AComponent->FOwner->RemoveComponent(AComponent);
   FComponents.push_back(AComponent);
+  if (!AComponent->FName.empty()) Names().Add(AComponent->FName, AComponent);
+  if (AComponent->FHearsOfSiblings) FSiblingListeners.push_back(AComponent);
   AComponent->FOwner = this;
   if (FComponentState.Contains(csDesigning)) AComponent->SetDesigning(true, true);
   Notification(AComponent, opInsert);
@@ -174,8 +192,24 @@ void TComponent::InsertComponent(TComponent* AComponent) {
 void TComponent::RemoveComponent(TComponent* AComponent) {
   TARVO_ASSERT(AComponent != nullptr && AComponent->FOwner == this);
   Notification(AComponent, opRemove);
-  std::erase(FComponents, AComponent);
+  // Searched from the end: an owner gives up its components last made first.
+  EraseLast(FComponents, AComponent);
+  if (AComponent->FHearsOfSiblings) EraseLast(FSiblingListeners, AComponent);
+  if (!AComponent->FName.empty()) FNames->Remove(AComponent->FName);
   AComponent->FOwner = nullptr;
+}
+
+void TComponent::HearOfSiblings() {
+  if (std::exchange(FHearsOfSiblings, true) || !FOwner) return;
+  // Usually asked in the constructor, just after the owner took this component in last.
+  std::vector<TComponent*>& listeners = FOwner->FSiblingListeners;
+  if (FOwner->FComponents.back() == this) {
+    listeners.push_back(this);
+    return;
+  }
+  listeners.clear();
+  for (TComponent* component : FOwner->FComponents)
+    if (component->FHearsOfSiblings) listeners.push_back(component);
 }
 
 void TComponent::FreeNotification(TComponent* AComponent) {
@@ -193,10 +227,16 @@ void TComponent::RemoveFreeNotification(TComponent* AComponent) {
 }
 
 void TComponent::Notification(TComponent* AComponent, TOperation AOperation) {
-  if (AOperation == opRemove && AComponent) RemoveFreeNotification(AComponent);
+  if (AOperation == opRemove && AComponent) {
+    RemoveFreeNotification(AComponent);
+    // The owned components that refer to the one given up let go of it now, before it goes.
+    if (AComponent->FOwner == this)
+      for (TComponent* referring : std::vector<TComponent*>(AComponent->FFreeNotifies))
+        if (referring->FOwner == this && !referring->FHearsOfSiblings) referring->Notification(AComponent, opRemove);
+  }
   // A notified component may give up others: the index is checked at every step.
-  for (std::size_t i = FComponents.size(); i-- > 0;)
-    if (i < FComponents.size()) FComponents[i]->Notification(AComponent, AOperation);
+  for (std::size_t i = FSiblingListeners.size(); i-- > 0;)
+    if (i < FSiblingListeners.size()) FSiblingListeners[i]->Notification(AComponent, AOperation);
 }
 
 void TComponent::Loaded() { FComponentState.Exclude(csLoading); }

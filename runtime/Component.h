@@ -16,6 +16,11 @@
 // csDesigning and csLoading. The slot is taken by the first component constructed, so a
 // component made inside that constructor does not inherit it; an owned one gets csDesigning
 // from its owner instead, when it is inserted.
+//
+// Designs of many thousand components: an owner indexes its components' names (TComponentNames),
+// and passes the insertion and removal of one of them on only to those that asked to hear of
+// their siblings (HearOfSiblings) and, for a removal, to those that refer to it: neither grows
+// with the square of the count.
 
 #include <memory>
 #include <vector>
@@ -106,6 +111,7 @@ TARVO_ENUM(TComponentStateFlag, csLoading, csDesigning, csDestroying)
 TARVO_SET(TComponentState, TComponentStateFlag)
 
 class TComponent;
+class TComponentNames;
 using TComponentClass = TClassOf<TComponent>;
 
 // A component answers interface queries without counting references: its owner, not a
@@ -142,6 +148,10 @@ public:
   void InsertComponent(TComponent* AComponent);
   // Gives AComponent up without destroying it; it is told through Notification first.
   void RemoveComponent(TComponent* AComponent);
+  // ABaseName followed by the lowest number from 1 that no owned component's name takes, in any
+  // case. The search starts where the last one for that base ended, so that making N names costs
+  // N steps; a name that comes free again lowers the start.
+  String UniqueComponentName(const String& ABaseName);
 
   TComponentState ComponentState() const { return FComponentState; }
 
@@ -153,8 +163,12 @@ public:
 
 protected:
   // AComponent is inserted into or removed from this owner, or goes while this one refers to it.
-  // Passed on to the owned components, so that siblings learn of each other.
+  // Passed on to the owned components that hear of their siblings, and a removal also to those
+  // that refer to the component removed.
   virtual void Notification(TComponent* AComponent, TOperation AOperation);
+  // From now on this component's Notification hears of every component its owners take in or
+  // give up, not only of those it refers to.
+  void HearOfSiblings();
   // Raises when ANewName is taken here by another than AComponent.
   virtual void ValidateRename(TComponent* AComponent, const String& ANewName) const;
   // The loading state ends.
@@ -176,11 +190,16 @@ private:
   void SetDesigning(Boolean AValue, Boolean ASetChildren);
   void Teardown();
   void DestroyComponents();
+  TComponentNames& Names();
 
   String FName;
   NativeInt FTag = 0;
   TComponent* FOwner = nullptr;
   std::vector<TComponent*> FComponents;
+  std::unique_ptr<TComponentNames> FNames;
+  // The owned components that hear of their siblings, in the order of FComponents.
+  std::vector<TComponent*> FSiblingListeners;
+  bool FHearsOfSiblings = false;
   std::vector<TComponent*> FFreeNotifies;
   TComponentState FComponentState;
 };

@@ -11,8 +11,21 @@ TJson ParseDesignText(const String& AText) {
     return TJson::parse(AText);
   } catch (const TJson::parse_error& e) {
     const std::string_view detail = e.what();
-    Fail("The design is no valid JSON: " + String(detail.substr(detail.find("] ") + 2)));
+    Fail("The design is no valid JSON: " + EscapedUtf8(detail.substr(detail.find("] ") + 2)));
   }
+}
+
+void FailNesting(std::span<const std::string_view> ANames) {
+  const auto join = [](std::span<const std::string_view> AParts) {
+    String text;
+    for (const std::string_view part : AParts) text += (text.empty() ? "" : ".") + EscapedUtf8(part);
+    return text;
+  };
+  // The outermost and innermost names tell the place; the ones between would fill a screen.
+  constexpr std::size_t Shown = 3;
+  const String path =
+      ANames.size() <= 2 * Shown ? join(ANames) : join(ANames.first(Shown)) + "..." + join(ANames.last(Shown));
+  Fail("Components nest deeper than " + std::to_string(MaxNesting) + " levels under '" + path + "'");
 }
 
 String DesignText(const TJson& ADesign, const String& ARootName) {

@@ -1,13 +1,16 @@
 #pragma once
 // What the design file reader and writer share: the JSON form, the error, the invariant format
-// settings and which members are written as texts or as component names.
+// settings, the deepest nesting, and which members are written as texts or as component names.
 
+#include <span>
+#include <string_view>
 #include <utility>
 
 #include <nlohmann/json.hpp>
 
 #include "reflection/TypeInfo.h"
 #include "rtl/SysUtils.h"
+#include "rtl/Utf8Text.h"
 #include "runtime/Component.h"
 #include "runtime/DesignFile.h"
 
@@ -17,6 +20,16 @@ namespace Tarvo::DesignFile {
 using TJson = nlohmann::ordered_json;
 
 [[noreturn]] inline void Fail(const String& AMessage) { throw EDesignFileError(AMessage); }
+
+// A text of the file in a message, quoted, its bytes that are no UTF-8 escaped.
+inline String Quoted(std::string_view AText) { return "'" + EscapedUtf8(AText) + "'"; }
+
+// Components nest at most this deep: far more than any form needs, and few enough that the
+// recursive walks of reader, writer and serializer stay far from the end of the stack.
+inline constexpr std::size_t MaxNesting = 512;
+// Refuses a design whose components nest deeper than MaxNesting below the components of
+// ANames, the outermost first.
+[[noreturn]] void FailNesting(std::span<const std::string_view> ANames);
 
 // A design reads the same on every machine: numbers and dates go through the invariant settings
 // for as long as a file is read or written, whatever the host set. Times keep their milliseconds.

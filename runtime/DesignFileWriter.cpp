@@ -8,16 +8,17 @@ using namespace DesignFile;
 
 namespace {
 
+// Each component's item is filled in place in its list, and the names of the components above it
+// are the only state that grows with the depth.
 class TDesignWriter {
 public:
   explicit TDesignWriter(TComponent* ARoot) : FRoot(ARoot) {}
 
-  TJson Write() const {
-    TJson list = TJson::array();
-    for (Integer i = 0; i < FRoot->ComponentCount(); ++i)
-      if (!WrittenUnderParent(FRoot->Components(i))) list.push_back(Component(FRoot->Components(i)));
+  TJson Write() {
     TJson design = TJson::object();
-    design["components"] = std::move(list);
+    TJson& list = design["components"] = TJson::array();
+    for (Integer i = 0; i < FRoot->ComponentCount(); ++i)
+      if (!WrittenUnderParent(FRoot->Components(i))) Component(FRoot->Components(i), list);
     return design;
   }
 
@@ -30,22 +31,27 @@ private:
     return control && InDesign(control->GetParent());
   }
 
-  TJson Component(TComponent* AComponent) const {
-    TJson item = TJson::object();
+  // Appends the item of AComponent, with its children, to AList.
+  void Component(TComponent* AComponent, TJson& AList) {
+    if (FNames.size() == MaxNesting) FailNesting(FNames);
+    TJson& item = AList.emplace_back(TJson::object());
     item["class"] = AComponent->ClassName();
     item["name"] = AComponent->GetName();
     TJson properties = TJson::object();
-    Properties(AComponent, String(), properties);
+    Properties(AComponent, AComponent, String(), properties);
     if (!properties.empty()) item["properties"] = std::move(properties);
+    const auto* window = dynamic_cast<const TWinControl*>(AComponent);
+    if (!window) return;
+    FNames.push_back(AComponent->GetName());
     TJson children = TJson::array();
-    if (const auto* window = dynamic_cast<const TWinControl*>(AComponent))
-      for (Integer i = 0; i < window->ControlCount(); ++i)
-        if (InDesign(window->Controls(i))) children.push_back(Component(window->Controls(i)));
+    for (Integer i = 0; i < window->ControlCount(); ++i)
+      if (InDesign(window->Controls(i))) Component(window->Controls(i), children);
     if (!children.empty()) item["children"] = std::move(children);
-    return item;
+    FNames.pop_back();
   }
 
-  void Properties(TObject* AObject, const String& APrefix, TJson& AResult) const {
+  // The members of AObject, AComponent itself or an object of one of its members.
+  void Properties(const TComponent* AComponent, TObject* AObject, const String& APrefix, TJson& AResult) const {
     for (const TRef<IMemberInfo>& member : TRttiObjectHelper::TypeInfo(AObject, true)->GetMembers(mvsPublished)) {
       TRef<ISinglePropertyInfo> property;
       if (!Supports(member, property) || !property->GetIsReadable() || !property->GetIsStored(AObject)) continue;
@@ -56,9 +62,13 @@ private:
       if (RefersToComponent(type)) {
         if (const String name = ReferenceName(value); !name.empty() && property->GetIsWritable()) AResult[key] = name;
       } else if (type->Kind == tkClass) {
-        if (TObject* inner = value.AsObject()) Properties(inner, key + ".", AResult);
+        if (TObject* inner = value.AsObject()) Properties(AComponent, inner, key + ".", AResult);
       } else if (HasTextForm(type) && property->GetIsWritable() && !property->GetIsDefault(AObject, false)) {
-        AResult[key] = value.ToString();
+        String text = value.ToString();
+        if (!IsValidUtf8(text))
+          Fail("The text " + Quoted(text) + " of '" + key + "' of component '" + AComponent->GetName() +
+               "' is no valid UTF-8");
+        AResult[key] = std::move(text);
       }
     }
   }
@@ -71,6 +81,7 @@ private:
   }
 
   TComponent* FRoot;
+  std::vector<std::string_view> FNames;
 };
 
 } // namespace

@@ -8,12 +8,7 @@ TRef<IStringArrayList> THostDesigner::GetComponentNames() {
   return result;
 }
 
-String THostDesigner::UniqueName(const String& ABaseName) {
-  for (Integer number = 1;; ++number) {
-    const String candidate = ABaseName + std::to_string(number);
-    if (!FRoot->FindComponent(candidate)) return candidate;
-  }
-}
+String THostDesigner::UniqueName(const String& ABaseName) { return FRoot->UniqueComponentName(ABaseName); }
 
 void THostDesigner::Modified() {
   ++FModifiedCount;

@@ -43,6 +43,9 @@ void ExpectParses(TTry ATry, std::initializer_list<TParsed<T>> AAccepted,
 TEST(SysUtilsTextTest, ComparisonCaseAndTrim) {
   EXPECT_TRUE(SameText("TObject", "tobject"));
   EXPECT_FALSE(SameText("\xC3\xA9", "\xC3\x89")); // bytes above 127 are not folded
+  // The hash of indexes that ignore case folds as SameText does.
+  EXPECT_EQ(HashText("Scope_1"), HashText("sCOPE_1"));
+  EXPECT_NE(HashText("\xC3\xA9"), HashText("\xC3\x89"));
   EXPECT_LT(CompareText("ab", "ABC"), 0);
   EXPECT_GT(CompareText("\xC3\xA9", "z"), 0); // unsigned bytes
   EXPECT_LT(CompareStr("B", "a"), 0);         // ordinal: upper case first

@@ -58,6 +58,8 @@ TEST(ComponentNameTest, OnlyIdentifiersAreNamesAndReflectionPassesTheErrorThroug
   for (const char* name : {"_x9", ""}) EXPECT_EQ(NameError(*component, name), "") << name;
   for (const char* name : {"1abc", "a b", "a.b", "a-b", "\xC3\xA9", " a"})
     EXPECT_EQ(NameError(*component, name), "'" + String(name) + "' is not a valid component name");
+  // Bytes that are no UTF-8 are not echoed: the message stays readable text.
+  EXPECT_EQ(NameError(*component, "Ab\xFF\xC3"), "'Ab\\xFF\\xC3' is not a valid component name");
   EXPECT_EQ(component->GetName(), "");
   TRef<IValueMemberInfo> member;
   ASSERT_TRUE(TRttiObjectHelper::TypeInfo(component.get(), false)->FindMember("Name", member));
@@ -82,6 +84,55 @@ TEST(ComponentNameTest, NamesAreUniqueAmongAnOwnersComponentsWhateverTheCase) {
   EXPECT_EQ(stranger->Owner(), elsewhere.get());
   EXPECT_EQ(NameError(*second, "") + NameError(*first, ""), "");
   EXPECT_EQ(owner->FindComponent(""), nullptr);
+}
+
+// The owner's index of names follows renames, frees and moves: a name that was given up is free
+// again at once, and the moved component's name goes with it.
+TEST(ComponentNameTest, TheIndexOfNamesFollowsRenamesFreesAndMoves) {
+  const TComponentPtr owner(Construct<TComponent>(nullptr));
+  const TComponentPtr other(Construct<TComponent>(nullptr));
+  TComponent* first = NewLogged(owner.get(), "Scope1");
+  TComponent* second = NewLogged(owner.get(), "Scope2");
+  EXPECT_EQ(NameError(*first, "SCOPE1"), ""); // its own name in another case
+  EXPECT_EQ(NameError(*second, "scope1"), "A component named scope1 already exists");
+  EXPECT_EQ(owner->FindComponent("Scope1"), first);
+
+  EXPECT_EQ(NameError(*first, "Renamed"), "");
+  EXPECT_EQ(owner->FindComponent("scope1"), nullptr);
+  EXPECT_EQ(NameError(*second, "Scope1"), ""); // the old name is free again
+
+  TObject::Free(first);
+  EXPECT_EQ(owner->FindComponent("Renamed"), nullptr);
+  EXPECT_EQ(NewLogged(owner.get(), "RENAMED")->Owner(), owner.get());
+
+  other->InsertComponent(second);
+  EXPECT_EQ(owner->FindComponent("Scope1"), nullptr);
+  EXPECT_EQ(other->FindComponent("SCOPE1"), second);
+  EXPECT_EQ(NewLogged(owner.get(), "Scope1")->Owner(), owner.get());
+  EXPECT_EQ(NameError(*second, ""), ""); // a nameless component is in no index
+  EXPECT_EQ(other->FindComponent("Scope1"), nullptr);
+}
+
+// Unique names take the lowest free number, in any case; a number given up by a free or a rename
+// is taken again, and names made before are never repeated.
+TEST(ComponentNameTest, UniqueNamesTakeTheLowestFreeNumber) {
+  const TComponentPtr owner(Construct<TComponent>(nullptr));
+  const auto make = [&](const String& ABase) { return NewLogged(owner.get(), owner->UniqueComponentName(ABase)); };
+  TComponent* scope1 = make("Scope");
+  TComponent* scope2 = make("Scope");
+  NewLogged(owner.get(), "SCOPE3"); // named by hand, in another case
+  EXPECT_EQ(make("scope")->GetName(), "scope4");
+  EXPECT_EQ(make("Scope1")->GetName(), "Scope11"); // a base that ends in a digit
+  TObject::Free(scope2);
+  EXPECT_EQ(make("Scope")->GetName(), "Scope2");
+  scope1->SetName("Other");
+  EXPECT_EQ(owner->UniqueComponentName("Scope"), "Scope1");
+  EXPECT_EQ(owner->UniqueComponentName("Scope"), "Scope1"); // asking takes nothing
+  EXPECT_EQ(make("Scope")->GetName(), "Scope1");
+  EXPECT_EQ(make("Scope")->GetName(), "Scope5");
+  TObject::Free(owner->FindComponent("Scope11"));
+  EXPECT_EQ(make("Scope1")->GetName(), "Scope11");
+  EXPECT_EQ(make("Scope")->GetName(), "Scope6");
 }
 
 // An owner frees its components last made first, and every component of the owner hears of each.

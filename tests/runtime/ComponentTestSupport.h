@@ -14,7 +14,9 @@ class TTestLogComponent : public TComponent {
   TARVO_CLASS(TTestLogComponent, TComponent)
 
 public:
-  explicit TTestLogComponent(TComponent* AOwner) : TComponent(AOwner), StateAtConstruction(ComponentState()) {}
+  explicit TTestLogComponent(TComponent* AOwner) : TComponent(AOwner), StateAtConstruction(ComponentState()) {
+    HearOfSiblings();
+  }
   ~TTestLogComponent() override { Write("destroy " + GetName()); }
 
   TLog* Log = nullptr;

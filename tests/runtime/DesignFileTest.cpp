@@ -205,6 +205,47 @@ TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
   });
 }
 
+// Window controls nested ADepth deep, Panel1 outermost.
+String NestedPanels(int ADepth) {
+  String text;
+  for (int i = 1; i <= ADepth; ++i)
+    text +=
+        R"({"class": "TWinControl", "name": "Panel)" + std::to_string(i) + (i < ADepth ? R"(", "children": [)" : "\"}");
+  for (int i = 1; i < ADepth; ++i) text += "]}";
+  return Design(text);
+}
+
+// Components nest 512 levels deep at most, when read and when written; one level more is refused
+// with the place, and nothing of a refused file stays.
+TEST_F(DesignFileTest, NestingBeyondTheLimitIsRefusedWithItsPlace) {
+  const String message =
+      "Components nest deeper than 512 levels under 'Panel1.Panel2.Panel3...Panel510.Panel511.Panel512'";
+  Testing::ExpectError<EDesignFileError>([this] { ReadDesign(NestedPanels(513), FRoot.get()); }, message);
+  EXPECT_EQ(FRoot->ComponentCount(), 0);
+
+  ReadDesign(NestedPanels(512), FRoot.get());
+  const String written = WriteDesign(FRoot.get());
+  TOwnedObject<TComponent> copy(Construct<TComponent>(nullptr));
+  EXPECT_EQ(ReadDesign(written, copy.get()).size(), 512u);
+  TControl* below = Construct<TShape>(FRoot.get());
+  below->SetName("Shape1");
+  below->SetParent(dynamic_cast<TWinControl*>(FRoot->FindComponent("Panel512")));
+  Testing::ExpectError<EDesignFileError>([this] { WriteDesign(FRoot.get()); }, message);
+}
+
+// Bytes that are no UTF-8 reach no message as they are: a file that holds them is no JSON, and a
+// text that holds them is not written.
+TEST_F(DesignFileTest, TextsThatAreNoUtf8AreRefusedWithTheirBytesEscaped) {
+  Testing::ExpectError<EDesignFileError>(
+      [this] { ReadDesign(Design("{\"class\": \"TShape\", \"name\": \"Ab\xFF\"}"), FRoot.get()); },
+      "The design is no valid JSON: parse error at line 1, column 48: syntax error while parsing value - invalid "
+      "string: ill-formed UTF-8 byte; last read: '\"Ab\\xFF'");
+  ReadDesign(Gauge1(R"("Caption": "fine")"), FRoot.get());
+  Gauge(FRoot.get(), "Gauge1")->FCaption = "a\xFF-";
+  Testing::ExpectError<EDesignFileError>([this] { WriteDesign(FRoot.get()); },
+                                         "The text 'a\\xFF-' of 'Caption' of component 'Gauge1' is no valid UTF-8");
+}
+
 // Errors of a file carry its name.
 TEST_F(DesignFileTest, ErrorsOfAFileNameTheFile) {
   const String path = ::testing::TempDir() + "design_file_test.json";
