@@ -28,9 +28,11 @@ void FailNesting(std::span<const std::string_view> ANames) {
   Fail("Components nest deeper than " + std::to_string(MaxNesting) + " levels under '" + path + "'");
 }
 
-String DesignText(const TJson& ADesign, const String& ARootName) {
+String DesignText(const TJson& ADesign, const String& ARootName, bool AIndented) {
   try {
-    return ADesign.dump(2) + "\n";
+    String text = ADesign.dump(AIndented ? 2 : -1);
+    text += '\n';
+    return text;
   } catch (const TJson::type_error&) {
     Fail("The design of '" + ARootName + "' holds a text that is no valid UTF-8");
   }

@@ -64,8 +64,13 @@ inline bool HasTextForm(PTypeInfo AType) {
 
 // The document of a design text; EDesignFileError says where the text is no valid JSON.
 TJson ParseDesignText(const String& AText);
-// The indented text of a design document, one line feed at its end; EDesignFileError names the
-// root when a text in the document is no valid UTF-8.
-String DesignText(const TJson& ADesign, const String& ARootName);
+// Designs nested up to this deep are written indented, to be read and compared by people; a
+// deeper one is written compact, so that its text grows with its content and not with the square
+// of its depth.
+inline constexpr std::size_t IndentedNesting = 16;
+
+// The text of a design document, indented or compact, one line feed at its end; EDesignFileError
+// names the root when a text in the document is no valid UTF-8.
+String DesignText(const TJson& ADesign, const String& ARootName, bool AIndented);
 
 } // namespace Tarvo::DesignFile

@@ -14,6 +14,9 @@ class TDesignWriter {
 public:
   explicit TDesignWriter(TComponent* ARoot) : FRoot(ARoot) {}
 
+  // How deep the components of the last Write nest.
+  std::size_t Deepest() const { return FDeepest; }
+
   TJson Write() {
     TJson design = TJson::object();
     TJson& list = design["components"] = TJson::array();
@@ -43,6 +46,7 @@ private:
     const auto* window = dynamic_cast<const TWinControl*>(AComponent);
     if (!window) return;
     FNames.push_back(AComponent->GetName());
+    FDeepest = std::max(FDeepest, FNames.size());
     TJson children = TJson::array();
     for (Integer i = 0; i < window->ControlCount(); ++i)
       if (InDesign(window->Controls(i))) Component(window->Controls(i), children);
@@ -82,6 +86,7 @@ private:
 
   TComponent* FRoot;
   std::vector<std::string_view> FNames;
+  std::size_t FDeepest = 0;
 };
 
 } // namespace
@@ -89,7 +94,9 @@ private:
 String WriteDesign(TComponent* ARoot) {
   TARVO_ASSERT(ARoot != nullptr);
   const TInvariantFormatScope invariant;
-  return DesignText(TDesignWriter(ARoot).Write(), ARoot->GetName());
+  TDesignWriter writer(ARoot);
+  const TJson design = writer.Write();
+  return DesignText(design, ARoot->GetName(), writer.Deepest() <= IndentedNesting);
 }
 
 } // namespace Tarvo

@@ -225,6 +225,7 @@ TEST_F(DesignFileTest, NestingBeyondTheLimitIsRefusedWithItsPlace) {
 
   ReadDesign(NestedPanels(512), FRoot.get());
   const String written = WriteDesign(FRoot.get());
+  EXPECT_EQ(std::ranges::count(written, '\n'), 1) << "a deep design is written compact, on one line";
   TOwnedObject<TComponent> copy(Construct<TComponent>(nullptr));
   EXPECT_EQ(ReadDesign(written, copy.get()).size(), 512u);
   TControl* below = Construct<TShape>(FRoot.get());
