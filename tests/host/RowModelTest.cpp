@@ -77,7 +77,8 @@ TEST_F(RowModelTest, AnExpandingEditorGivesSubRowsThatWriteToTheValuesOfEverySel
   RegisterPropertyEditor(TypeInfo<TFont*>(), TInspectTestFontEditor::ClassInfo());
   Select({"Scope1", "TriggerMark"});
   FInspector.Expand("font");
-  const TInspectorRow* font = Row(FInspector.Rows(), "Font");
+  const std::vector<TInspectorRow> rows = FInspector.Rows();
+  const TInspectorRow* font = Row(rows, "Font");
   ASSERT_TRUE(font && font->Expanded);
   std::vector<String> children;
   for (const TInspectorRow& child : font->Children) children.push_back(child.Path);
