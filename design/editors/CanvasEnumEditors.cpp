@@ -11,6 +11,7 @@
 
 namespace Tarvo {
 
+template class TInplaceFormEditor<TCanvasEnumerationPropertyEditor, TEnumCanvasInplaceForm>;
 template class TEnumButtonsEditor<TCanvasEnumerationPropertyEditor>;
 
 TARVO_IMPLEMENT_CLASS(TCanvasEnumerationPropertyEditor)

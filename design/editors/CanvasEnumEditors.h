@@ -69,6 +69,7 @@ public:
 };
 
 // Compiled once, with the editors.
+extern template class TInplaceFormEditor<TCanvasEnumerationPropertyEditor, TEnumCanvasInplaceForm>;
 extern template class TEnumButtonsEditor<TCanvasEnumerationPropertyEditor>;
 
 } // namespace Tarvo

@@ -4,7 +4,7 @@
 // The editors differ in data, which TTraits gives: the value's type and names, the swatch's
 // width in row heights and the argument that picks its border.
 
-#include "design/SinglePropertyEditor.h"
+#include "design/editors/InplaceFormEditor.h"
 #include "design/paint/EditorPaint.h"
 #include "design/paint/InplaceForm.h"
 
@@ -13,32 +13,22 @@ namespace Tarvo {
 // TBase is the numeric editor the colour editor extends, TForm its in-place colour form. TTraits
 // has TColorValue, TBorderArgument, SwatchRows, ValueBorder (the border argument of the value
 // cell), ListBorder(ASelected) (that of a list row), ToText(TValue) and MeasureInListFont (whether
-// a list row is measured in the font it is drawn in, or always in the plain one).
+// a list row is measured in the font it is drawn in, or always in the plain one). A base with a
+// slider keeps it hidden: only the colour form is offered.
 template <class TBase, class TForm, class TTraits>
 class TARVO_API TColorEditorBase
-    : public TImplements<TBase, IPropertyEditorInplace, IPropertyEditorDialog, IPropertyEditorListDraw,
+    : public TImplements<TInplaceFormEditor<TBase, TForm>, IPropertyEditorDialog, IPropertyEditorListDraw,
                          IPropertyEditorDraw, IPropertyEditorDropDownStringList> {
-  using TInherited = TImplements<TBase, IPropertyEditorInplace, IPropertyEditorDialog, IPropertyEditorListDraw,
+  using TInherited = TImplements<TInplaceFormEditor<TBase, TForm>, IPropertyEditorDialog, IPropertyEditorListDraw,
                                  IPropertyEditorDraw, IPropertyEditorDropDownStringList>;
 
 public:
   using TColorValue = typename TTraits::TColorValue;
 
   using TInherited::TInherited;
-  // Forms the grid still shows stop reporting to the editor.
-  ~TColorEditorBase() override;
 
-  // Refuses IPropertyEditorInplace where there is no colour form.
-  HRESULT QueryInterface(const TGUID& AIID, void** AObj) override;
   TRef<IStringArrayList> GetStringValues(const TRef<IObjectArrayList>& AObjectsList) override;
   String GetDefaultStringValue() override;
-  void SetInstanceValues(const TValue& AValue) override;
-  // Pushes the first selected object's colour into every open form.
-  virtual void UpdateInplace();
-
-  TRef<IInplaceForm> GetInplaceForm(QWidget* AParent, const TRef<IPaintObjects>& APaintObjects,
-                                    const TRef<IMemberUIUpdate>& AUIUpdate, const TIGXRect& ARect) override;
-  void DropForm(const TRef<IInplaceForm>& AForm) override;
 
   // The first object's swatch; the text goes right of it. No swatch, and the whole cell for the
   // text, when the first text is empty.
@@ -56,20 +46,14 @@ public:
   virtual void PaintColorBox(const TRef<IGXGraphics>& AGraphics, const String& AValue, const TIGXRect& ARect,
                              typename TTraits::TBorderArgument ABorder) = 0;
 
-  void FormColorChange(QWidget* ASender);
-  void FormEditorEnter(QWidget* ASender);
-  void FormEditorLeave(QWidget* ASender);
-
 protected:
   void InitCreate(TSinglePropertyEditor* AInstance) override;
+  void MakeForm(TForm* AForm) override;
+  void ShowValue(TForm* AForm) override;
   // The font of a list row: the default value stands out.
   TRef<IGXFont> ListFont(const TValue& AValue, const TRef<IPaintObjects>& APaintObjects);
   // The first selected object's colour; false with nothing selected.
   Boolean FirstColor(TColorValue& AColor);
-
-  // Hides the slider's controller, which a base with a slider still makes: only the colour form
-  // is offered.
-  TRef<IPropertyEditorInplace> FFormController;
 
 private:
   // Where the text starts: the swatch and its margin, in row heights.
@@ -77,7 +61,6 @@ private:
     ARect.X += ARect.Height * TTraits::SwatchRows;
     ARect.Width -= ARect.Height * TTraits::SwatchRows;
   }
-  void MakeForm(TForm* AForm);
 };
 
 } // namespace Tarvo

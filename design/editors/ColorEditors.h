@@ -69,6 +69,8 @@ public:
 };
 
 // Compiled once, with the editors.
+extern template class TInplaceFormEditor<TBasicIntegerPropertyEditor, TColorInplaceForm>;
+extern template class TInplaceFormEditor<TCardinalPropertyEditor, TAlphaColorInplaceForm>;
 extern template class TColorEditorBase<TBasicIntegerPropertyEditor, TColorInplaceForm, TColorEditorTraits>;
 extern template class TColorEditorBase<TCardinalPropertyEditor, TAlphaColorInplaceForm, TAlphaColorEditorTraits>;
 

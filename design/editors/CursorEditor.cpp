@@ -10,6 +10,7 @@
 
 namespace Tarvo {
 
+template class TInplaceFormEditor<TBasicIntegerPropertyEditor, TEnumCanvasInplaceForm>;
 template class TEnumButtonsEditor<TBasicIntegerPropertyEditor>;
 
 TARVO_IMPLEMENT_CLASS(TCursorPropertyEditor)

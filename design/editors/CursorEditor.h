@@ -55,6 +55,7 @@ private:
 };
 
 // Compiled once, with the editor.
+extern template class TInplaceFormEditor<TBasicIntegerPropertyEditor, TEnumCanvasInplaceForm>;
 extern template class TEnumButtonsEditor<TBasicIntegerPropertyEditor>;
 
 } // namespace Tarvo

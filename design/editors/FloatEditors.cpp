@@ -53,6 +53,7 @@ TValue TBasicFloatPropertyEditor::GetDefaultMinValue() { return TValue(IsReal() 
 
 TValue TBasicFloatPropertyEditor::GetDefaultMaxValue() { return TValue(IsReal() ? DBL_MAX : Double(FLT_MAX)); }
 
+template class TInplaceFormEditor<TBasicFloatPropertyEditor, TRealInplaceFormUnit>;
 template class TNumericSliderEditor<TBasicFloatPropertyEditor, TRealInplaceFormUnit>;
 
 // ---- Start-up ----

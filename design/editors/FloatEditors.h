@@ -41,6 +41,7 @@ public:
 };
 
 // Compiled once, with the editors.
+extern template class TInplaceFormEditor<TBasicFloatPropertyEditor, TRealInplaceFormUnit>;
 extern template class TNumericSliderEditor<TBasicFloatPropertyEditor, TRealInplaceFormUnit>;
 
 } // namespace Tarvo

@@ -88,8 +88,10 @@ TValue TRangedOrdinalPropertyEditor::ApplyConstraints(const TValue& AValue) {
 
 // ---- The slider ----
 
+// The Cardinal and Int64 editors' slider; the Integer editor's is compiled apart (IntegerSlider.cpp),
+// each instantiation being heavy.
+template class TInplaceFormEditor<TRangedOrdinalPropertyEditor, TNumericInplaceForm>;
 template class TNumericSliderEditor<TRangedOrdinalPropertyEditor, TNumericInplaceForm>;
-template class TNumericSliderEditor<TBasicIntegerPropertyEditor, TNumericInplaceForm>;
 
 // ---- Start-up ----
 

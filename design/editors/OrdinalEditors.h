@@ -80,6 +80,8 @@ public:
 };
 
 // Compiled once, with the editors.
+extern template class TInplaceFormEditor<TRangedOrdinalPropertyEditor, TNumericInplaceForm>;
+extern template class TInplaceFormEditor<TBasicIntegerPropertyEditor, TNumericInplaceForm>;
 extern template class TNumericSliderEditor<TRangedOrdinalPropertyEditor, TNumericInplaceForm>;
 extern template class TNumericSliderEditor<TBasicIntegerPropertyEditor, TNumericInplaceForm>;
 

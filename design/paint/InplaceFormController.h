@@ -92,3 +92,10 @@ private:
 };
 
 } // namespace Tarvo
+
+// The controller of the forms of class F and the list of them cost seconds to compile: a source
+// file that shares them declares them with TARVO_INPLACE_FORM_INSTANCES(extern, F), and one source
+// file compiles them with TARVO_INPLACE_FORM_INSTANCES(, F). Use inside namespace Tarvo.
+#define TARVO_INPLACE_FORM_INSTANCES(AExtern, F)                                                                       \
+  TARVO_ARRAY_LIST_INSTANCES(AExtern, TInplaceFormInfo<F>)                                                             \
+  AExtern template class TInplaceEditorFormController<F>;
