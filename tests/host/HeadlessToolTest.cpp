@@ -154,10 +154,11 @@ TEST(HeadlessToolTest, PngDrawsTheGridOrTheListAtTheAskedWidthInTheAskedPalette)
   EXPECT_LT(listImage.height(), lightImage.height());
 }
 
-// The scope's samples where the grid puts them: rows of 18 under the 25 of the search bar, the value
-// cell from 142. The cursor is the filter's one row; the pen's and the brush's Style the third row
-// under their expanded object.
-TEST(HeadlessToolTest, PngShowsTheCursorPenAndBrushSamplesInBothPalettes) {
+// The scope's samples where the grid puts them, in either palette: rows of 18 under the 25 of the
+// search bar, the value cell from 142. The filtered row comes first; the pen's and the brush's
+// Style are the third row under their expanded object. The colour list's first name, clBlack, has
+// a black swatch.
+TEST(HeadlessToolTest, PngShowsTheSamplesOfTheScopesRowsInBothPalettes) {
   const auto gray = [](const QImage& AImage, int AX, int AY) { return qGray(AImage.pixel(AX, AY)); };
   const auto count = [&](const QImage& AImage, const QRect& ARect, auto ATest) {
     int result = 0;
@@ -167,53 +168,39 @@ TEST(HeadlessToolTest, PngShowsTheCursorPenAndBrushSamplesInBothPalettes) {
   };
   const auto dark = [](int AGray) { return AGray < 100; };
   const auto light = [](int AGray) { return AGray > 200; };
+  const String file = testing::TempDir() + "samples-" + std::to_string(getpid()) + ".png";
+  const auto picture = [&](const String& AArguments) {
+    const TToolRun run = RunTool("--select Scope1 " + AArguments + " --png " + file);
+    EXPECT_EQ(run.ExitCode, 0) << run.Err;
+    return QImage(QString::fromStdString(file));
+  };
   for (const char* palette : {"light", "dark"}) {
     SCOPED_TRACE(palette);
     const bool isDark = String(palette) == "dark";
-    const auto picture = [&](const String& AArguments) {
-      const String file = testing::TempDir() + "samples-" + std::to_string(getpid()) + ".png";
-      const TToolRun run = RunTool("--select Scope1 --palette " + String(palette) + " " + AArguments + " --png " + file);
-      EXPECT_EQ(run.ExitCode, 0) << run.Err;
-      return QImage(QString::fromStdString(file));
-    };
+    const String options = "--palette " + String(palette) + " ";
+    // The trace colour, yellow, fills its swatch; the text stands right of it.
+    const QImage colour = picture(options + "--filter TraceColor");
+    for (const QPoint at : {QPoint(145, 28), QPoint(150, 33), QPoint(156, 39)})
+      EXPECT_EQ(colour.pixel(at), qRgb(255, 255, 0)) << at.x() << "," << at.y();
+    EXPECT_NE(colour.pixel(170, 33), qRgb(255, 255, 0));
     // crCross on white in a pale frame, scaled to 16 by 16, whatever the palette.
-    const QImage cursor = picture("--filter Cursor");
-    const QRect cursorSample(142, 25, 16, 16);
+    const QImage cursor = picture(options + "--filter Cursor");
     EXPECT_TRUE(light(gray(cursor, 144, 27)) && light(gray(cursor, 156, 39)));
     EXPECT_GT(count(cursor, QRect(149, 26, 2, 14), [](int AGray) { return AGray < 160; }), 10);
-    EXPECT_GT(count(cursor, cursorSample, light), 150);
+    EXPECT_GT(count(cursor, QRect(142, 25, 16, 16), light), 150);
     // psDash: the dashes in the text colour over the pale frame, the inside in the window colour.
-    const QImage pen = picture("--expand TracePen --filter TracePen");
-    const QRect penTop(143, 62, 16, 1), penInside(144, 63, 14, 14);
-    EXPECT_EQ(count(pen, penInside, isDark ? dark : light), 14 * 14);
-    const int dashes = count(pen, penTop, dark), pale = count(pen, penTop, light);
+    const QImage pen = picture(options + "--expand TracePen --filter TracePen");
+    EXPECT_EQ(count(pen, QRect(144, 63, 14, 14), isDark ? dark : light), 14 * 14);
+    const int dashes = count(pen, QRect(143, 62, 16, 1), dark), pale = count(pen, QRect(143, 62, 16, 1), light);
     EXPECT_TRUE(isDark ? pale == 16 : dashes > 0 && pale > 0) << dashes << " " << pale;
     // bsDiagCross: the outline in the text colour, the hatch of both colours inside.
-    const QImage brush = picture("--expand ScreenBrush --filter ScreenBrush");
+    const QImage brush = picture(options + "--expand ScreenBrush --filter ScreenBrush");
     const auto text = isDark ? light : dark;
     for (const QPoint corner : {QPoint(143, 62), QPoint(158, 62), QPoint(143, 77), QPoint(158, 77)})
       EXPECT_TRUE(text(gray(brush, corner.x(), corner.y())));
-    const QRect brushInside(144, 63, 14, 14);
-    EXPECT_TRUE(count(brush, brushInside, dark) > 20 && count(brush, brushInside, light) > 20);
+    EXPECT_TRUE(count(brush, QRect(144, 63, 14, 14), dark) > 20 && count(brush, QRect(144, 63, 14, 14), light) > 20);
   }
-}
-
-// The bundled design's trace colour, yellow, fills the swatch at the left of the value cell (the
-// name column is 140 pixels wide, the row under the search bar) in either palette; the list's
-// first name, clBlack, has a black one.
-TEST(HeadlessToolTest, PngShowsTheColourSwatchInBothPalettes) {
-  const String picture = testing::TempDir() + "grid-colour.png";
-  for (const char* palette : {"light", "dark"}) {
-    const TToolRun run = RunTool(String("--select Scope1 --filter TraceColor --palette ") + palette + " --png " + picture);
-    ASSERT_EQ(run.ExitCode, 0) << run.Err;
-    const QImage image(QString::fromStdString(picture));
-    for (const QPoint at : {QPoint(145, 28), QPoint(150, 33), QPoint(156, 39)})
-      EXPECT_EQ(image.pixel(at), qRgb(255, 255, 0)) << palette << " " << at.x() << "," << at.y();
-    EXPECT_NE(image.pixel(170, 33), qRgb(255, 255, 0)) << palette << ": the text stands right of the swatch";
-  }
-  const TToolRun run = RunTool("--select Scope1 --values TraceColor --png " + picture);
-  ASSERT_EQ(run.ExitCode, 0) << run.Err;
-  EXPECT_EQ(QImage(QString::fromStdString(picture)).pixel(6, 7), qRgb(0, 0, 0));
+  EXPECT_EQ(picture("--values TraceColor").pixel(6, 7), qRgb(0, 0, 0));
 }
 
 TEST(HeadlessToolTest, ListsTheRegisteredClassesWithTheirPages) {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPalette>
 
+#include <functional>
 #include <set>
 #include <vector>
 
@@ -48,17 +49,6 @@ TEST(ColorNamesTest, NamesAndNumbersBothWays) {
   String ident = "kept";
   EXPECT_FALSE(ColorToIdent(0xA0B0C0, ident));
   EXPECT_EQ(ident, "kept");
-}
-
-TEST(ColorNamesTest, TextThatIsNoColourIsRefused) {
-  const struct {
-    const char* Name;
-    const char* Text;
-  } rows[] = {{"empty", ""}, {"unknown name", "clRedd"}, {"too large", "4294967296"}, {"alpha name", "claRed"}};
-  ForEachRow(rows, [](const auto& ARow) {
-    Testing::ExpectError([&] { StringToColor(ARow.Text); },
-                         "'" + String(ARow.Text) + "' is not a valid colour: a colour name or a number is expected");
-  });
 }
 
 // Every name once, in table order: fixed colours, system colours, then clNone and clDefault.
@@ -124,16 +114,29 @@ TEST(AlphaColorNamesTest, NamesAndTextsBothWays) {
   });
 }
 
+// Both readers name what they expected.
 TEST(AlphaColorNamesTest, TextThatIsNoColourIsRefused) {
+  const std::function<void(const char*)> colour = [](const char* AText) { StringToColor(AText); },
+                                         alpha = [](const char* AText) { StringToRGBAColor(AText); };
+  const String expectColour = "' is not a valid colour: a colour name or a number is expected",
+               expectAlpha = "' is not a valid alpha colour: a colour name, #AARRGGBB, #RRGGBB or a number is expected";
   const struct {
     const char* Name;
     const char* Text;
-  } rows[] = {{"empty", ""},         {"unknown name", "claRedd"}, {"seven digits", "#1234567"},
-              {"not hex", "#GG0000"}, {"negative", "-1"},          {"past 32 bits", "4294967296"}};
+    const std::function<void(const char*)>& Read;
+    const String& Expected;
+  } rows[] = {{"empty colour", "", colour, expectColour},
+              {"unknown colour name", "clRedd", colour, expectColour},
+              {"colour past 32 bits", "4294967296", colour, expectColour},
+              {"alpha name as a colour", "claRed", colour, expectColour},
+              {"empty alpha colour", "", alpha, expectAlpha},
+              {"unknown alpha name", "claRedd", alpha, expectAlpha},
+              {"seven digits", "#1234567", alpha, expectAlpha},
+              {"not hex", "#GG0000", alpha, expectAlpha},
+              {"negative", "-1", alpha, expectAlpha},
+              {"alpha past 32 bits", "4294967296", alpha, expectAlpha}};
   ForEachRow(rows, [](const auto& ARow) {
-    Testing::ExpectError([&] { StringToRGBAColor(ARow.Text); },
-                         "'" + String(ARow.Text) +
-                             "' is not a valid alpha colour: a colour name, #AARRGGBB, #RRGGBB or a number is expected");
+    Testing::ExpectError([&] { ARow.Read(ARow.Text); }, "'" + String(ARow.Text) + ARow.Expected);
   });
 }
 

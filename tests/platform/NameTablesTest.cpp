@@ -2,6 +2,8 @@
 
 #include <QImage>
 
+#include <functional>
+
 #include "platform/CharsetNames.h"
 #include "platform/CursorImages.h"
 #include "platform/CursorNames.h"
@@ -13,59 +15,46 @@ namespace {
 
 using Testing::ForEachRow;
 
-struct TNamedNumberRow {
-  const char* Name;
-  Integer Value;
-  const char* Ident;
-};
-
-// Names both ways, in any case on the way in; numbers no name stands for fail.
-TEST(NameTablesTest, CharsetsByNameAndNumber) {
-  const TNamedNumberRow rows[] = {{"first", 0, "ANSI_CHARSET"},         {"default", 1, "DEFAULT_CHARSET"},
-                                  {"mac", 77, "MAC_CHARSET"},           {"big5", 136, "CHINESEBIG5_CHARSET"},
-                                  {"russian", 204, "RUSSIAN_CHARSET"},  {"last", 255, "OEM_CHARSET"}};
-  ForEachRow(rows, [](const TNamedNumberRow& ARow) {
-    String ident;
-    EXPECT_TRUE(CharsetToIdent(ARow.Value, ident));
-    EXPECT_EQ(ident, ARow.Ident);
-    Integer value = -1;
-    EXPECT_TRUE(IdentToCharset(LowerCase(ARow.Ident), value));
-    EXPECT_EQ(value, ARow.Value);
-  });
-  String ident = "kept";
-  Integer value = 7;
-  EXPECT_FALSE(CharsetToIdent(3, ident));
-  EXPECT_FALSE(IdentToCharset("LATIN_CHARSET", value));
-  EXPECT_EQ(ident + std::to_string(value), "kept7");
-  std::vector<String> names;
-  GetCharsetValues([&](const String& AName) { names.push_back(AName); });
-  EXPECT_EQ(names.size(), 19u);
-  EXPECT_EQ(names.front() + "," + names.back(), "ANSI_CHARSET,OEM_CHARSET");
-}
-
-// A number without a name shows as itself; crNone and unknown numbers have no shape to draw.
-TEST(NameTablesTest, CursorsByNameNumberAndShape) {
-  const TNamedNumberRow rows[] = {{"default", crDefault, "crDefault"}, {"none", crNone, "crNone"},
-                                  {"cross", crCross, "crCross"},       {"hand", crHandPoint, "crHandPoint"},
-                                  {"size all", crSizeAll, "crSizeAll"}};
-  ForEachRow(rows, [](const TNamedNumberRow& ARow) {
-    EXPECT_EQ(CursorToString(TCursor(ARow.Value)), ARow.Ident);
+// Charset and cursor names both ways, in any case on the way in; numbers no name stands for fail
+// (a cursor's shows as itself), and a failed lookup leaves its result alone.
+TEST(NameTablesTest, CharsetsAndCursorsByNameAndNumber) {
+  const auto charsetName = [](Integer AValue) {
+    String ident = "?";
+    CharsetToIdent(AValue, ident);
+    return ident;
+  };
+  const auto cursorName = [](Integer AValue) { return CursorToString(TCursor(AValue)); };
+  const auto charsetValue = [](const String& AName, Integer& AValue) { return IdentToCharset(AName, AValue); };
+  const auto cursorValue = [](const String& AName, Integer& AValue) { return IdentToCursor(AName, AValue); };
+  const struct {
+    const char* Name;
+    Integer Value;
+    const char* Ident;
+    std::function<String(Integer)> ToName;
+    std::function<Boolean(const String&, Integer&)> ToValue;
+  } rows[] = {{"first charset", 0, "ANSI_CHARSET", charsetName, charsetValue},
+              {"default charset", 1, "DEFAULT_CHARSET", charsetName, charsetValue},
+              {"big5", 136, "CHINESEBIG5_CHARSET", charsetName, charsetValue},
+              {"last charset", 255, "OEM_CHARSET", charsetName, charsetValue},
+              {"charset without a name", 3, "?", charsetName, charsetValue},
+              {"default cursor", crDefault, "crDefault", cursorName, cursorValue},
+              {"no cursor", crNone, "crNone", cursorName, cursorValue},
+              {"last cursor", crSizeAll, "crSizeAll", cursorName, cursorValue},
+              {"cursor without a name", -5, "-5", cursorName, cursorValue}};
+  ForEachRow(rows, [](const auto& ARow) {
+    EXPECT_EQ(ARow.ToName(ARow.Value), ARow.Ident);
     Integer value = 99;
-    EXPECT_TRUE(IdentToCursor(UpperCase(ARow.Ident), value));
-    EXPECT_EQ(value, ARow.Value);
+    const Boolean named = ARow.ToValue(LowerCase(ARow.Ident), value);
+    EXPECT_EQ(value, named ? ARow.Value : 99);
+    EXPECT_EQ(named, String(ARow.Ident) != "?" && String(ARow.Ident) != "-5");
   });
-  EXPECT_EQ(CursorToString(-5), "-5");
-  EXPECT_EQ(CursorToString(7), "7");
-  Integer value = 99;
-  EXPECT_FALSE(IdentToCursor("crPointer", value));
-  EXPECT_EQ(value, 99);
+  std::vector<String> charsets, cursors;
+  GetCharsetValues([&](const String& AName) { charsets.push_back(AName); });
+  GetCursorValues([&](const String& AName) { cursors.push_back(AName); });
+  EXPECT_EQ(charsets.size(), 19u);
+  EXPECT_EQ(cursors.size(), 22u);
   EXPECT_EQ(ScreenCursor(crHandPoint), Qt::PointingHandCursor);
-  EXPECT_EQ(ScreenCursor(crDefault), Qt::ArrowCursor);
   EXPECT_FALSE(ScreenCursor(crNone) || ScreenCursor(-5) || ScreenCursor(1));
-  std::vector<String> names;
-  GetCursorValues([&](const String& AName) { names.push_back(AName); });
-  EXPECT_EQ(names.size(), 22u);
-  EXPECT_EQ(names.front() + "," + names.back(), "crDefault,crSizeAll");
 }
 
 // Every shape draws white with a dark outline inside the cursor's box, nothing outside it.
