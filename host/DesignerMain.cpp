@@ -3,12 +3,12 @@
 
 #include <QApplication>
 
-#include <filesystem>
 #include <iostream>
 #include <string_view>
 #include <vector>
 
 #include "host/designer/DesignerWindow.h"
+#include "host/headless/BundledPaths.h"
 #include "host/headless/Modules.h"
 #include "host/headless/PackageScope.h"
 
@@ -53,14 +53,12 @@ int main(int argc, char** argv) {
   QApplication::setApplicationDisplayName("Tarvo Designer");
   try {
     const TDesignerOptions options = ParseOptions(QApplication::arguments());
-    // The bundled module and design lie beside the executable.
-    const std::filesystem::path directory = std::filesystem::read_symlink("/proc/self/exe").parent_path();
+    const Tarvo::TInspectPaths bundled = Tarvo::BundledPaths();
     const Tarvo::TPackageScope package;
     Tarvo::TModulesScope modules;
-    modules.Load((directory / "libtarvo_samples.so").string());
+    modules.Load(bundled.SampleModule);
     for (const std::string& path : options.Modules) modules.Load(path);
-    Tarvo::TDesignerWindow window(options.DesignFile.empty() ? (directory / "designs" / "sample.json").string()
-                                                             : options.DesignFile);
+    Tarvo::TDesignerWindow window(options.DesignFile.empty() ? bundled.SampleDesign : options.DesignFile);
     window.show();
     return application.exec();
   } catch (const Tarvo::Exception& error) {

@@ -3,19 +3,12 @@
 
 #include <QApplication>
 
-#include <filesystem>
 #include <iostream>
 #include <optional>
 
-#include "host/headless/HostSession.h"
+#include "host/headless/BundledPaths.h"
 
 namespace {
-
-// The bundled module and design lie beside the executable.
-Tarvo::TInspectPaths BundledPaths() {
-  const std::filesystem::path directory = std::filesystem::read_symlink("/proc/self/exe").parent_path();
-  return {(directory / "libtarvo_samples.so").string(), (directory / "designs" / "sample.json").string()};
-}
 
 // Qt's notices that it picked a runtime directory itself, and that the offscreen platform can't
 // do what a window on a screen could, say nothing to a user of a tool that needs no screen;
@@ -50,7 +43,7 @@ int main(int argc, char** argv) {
       application.emplace(argc, argv);
     }
     // Nothing is printed before the whole run has succeeded.
-    std::cout << Tarvo::RunInspect(options, BundledPaths());
+    std::cout << Tarvo::RunInspect(options, Tarvo::BundledPaths());
     return 0;
   } catch (const Tarvo::Exception& error) {
     std::cerr << "error: " << error.Message() << "\n";
