@@ -18,5 +18,10 @@ function(tarvo_add_component_module NAME)
   target_link_libraries(${NAME} PRIVATE Tarvo::rtl)
   set_target_properties(${NAME} PROPERTIES CXX_VISIBILITY_PRESET hidden)
   target_compile_options(${NAME} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
-  target_link_options(${NAME} PRIVATE LINKER:-z,defs)
+  # Under clang's sanitizers the sanitizer runtime lives in the executable alone, so a module
+  # keeps undefined references to it until it is loaded.
+  get_property(options DIRECTORY PROPERTY COMPILE_OPTIONS)
+  if(NOT (CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND "${options} ${CMAKE_CXX_FLAGS}" MATCHES "-fsanitize"))
+    target_link_options(${NAME} PRIVATE LINKER:-z,defs)
+  endif()
 endfunction()

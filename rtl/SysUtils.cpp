@@ -15,8 +15,7 @@ const TFormatSettings& TFormatSettings::Invariant() {
   return settings;
 }
 
-// Constant-initialised, so routines called from other static initialisers see it ready.
-constinit TFormatSettings FormatSettings;
+TFormatSettings FormatSettings;
 
 // ---- Comparison and case ----
 

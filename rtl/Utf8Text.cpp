@@ -1,5 +1,7 @@
 #include "rtl/Utf8Text.h"
 
+#include <algorithm>
+
 namespace Tarvo {
 
 namespace {
@@ -58,6 +60,16 @@ String EscapedUtf8(std::string_view AText) {
     AText.remove_prefix(1);
   }
   return result;
+}
+
+String EscapedUtf8Excerpt(std::string_view AText, std::size_t AMaxBytes) {
+  std::size_t cut = 0;
+  while (cut < AText.size()) {
+    const std::size_t length = std::max<std::size_t>(SequenceLength(AText.substr(cut)), 1);
+    if (cut + length > AMaxBytes) return EscapedUtf8(AText.substr(0, cut)) + "...";
+    cut += length;
+  }
+  return EscapedUtf8(AText);
 }
 
 } // namespace Tarvo

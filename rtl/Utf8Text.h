@@ -15,6 +15,9 @@ bool IsValidUtf8(std::string_view AText);
 // AText with every byte that is no part of a well-formed sequence written as "\xHH" (upper-case
 // hex); valid text comes back unchanged.
 String EscapedUtf8(std::string_view AText);
+// As EscapedUtf8, of at most AMaxBytes of AText cut where a character ends, with "..." after
+// a text that was cut: a text of any length quoted in a message.
+String EscapedUtf8Excerpt(std::string_view AText, std::size_t AMaxBytes);
 
 } // namespace Tarvo
 

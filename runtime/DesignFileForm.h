@@ -21,8 +21,14 @@ using TJson = nlohmann::ordered_json;
 
 [[noreturn]] inline void Fail(const String& AMessage) { throw EDesignFileError(AMessage); }
 
-// A text of the file in a message, quoted, its bytes that are no UTF-8 escaped.
-inline String Quoted(std::string_view AText) { return "'" + EscapedUtf8(AText) + "'"; }
+// A text of the file in a message, quoted, its bytes that are no UTF-8 escaped, a long one cut.
+inline String Quoted(std::string_view AText) { return "'" + EscapedUtf8Excerpt(AText, 80) + "'"; }
+
+// A text of a design (a name, a class, a value) holds at most this many bytes: a megabyte is
+// more than any caption or list needs, and keeps what one hostile file costs in bounds.
+inline constexpr std::size_t MaxTextBytes = 1 << 20;
+// A conversion's message that quotes such a text is cut to this length.
+inline constexpr std::size_t MaxMessageBytes = 400;
 
 // Components nest at most this deep: far more than any form needs, and few enough that the
 // recursive walks of reader, writer and serializer stay far from the end of the stack.

@@ -70,7 +70,14 @@ private:
   const String& TextAt(const TJson& AItem, const char* AKey) const {
     const auto found = AItem.find(AKey);
     if (found == AItem.end() || !found->is_string()) Fail(Place() + ": \"" + AKey + "\" must be given as a text");
-    return found->get_ref<const String&>();
+    return Bounded(found->get_ref<const String&>(), [&] { return Place() + ": \"" + AKey + "\""; });
+  }
+
+  template <class F> static const String& Bounded(const String& AText, F AWhat) {
+    if (AText.size() > MaxTextBytes)
+      Fail(AWhat() + " holds " + std::to_string(AText.size()) + " bytes; a text of a design holds at most " +
+           std::to_string(MaxTextBytes));
+    return AText;
   }
 
   void CreateList(const TJson& AList, TWinControl* AParent) {
@@ -123,7 +130,9 @@ private:
       if (!item->is_string())
         Fail("The value of " + Quoted(item.key()) + " of component '" + APending.Component->GetName() +
              "' must be a text");
-      SetProperty(APending.Component, item.key(), item->get_ref<const String&>());
+      SetProperty(APending.Component, item.key(), Bounded(item->get_ref<const String&>(), [&] {
+                    return "The value of " + Quoted(item.key()) + " of component '" + APending.Component->GetName() + "'";
+                  }));
     }
   }
 
@@ -137,7 +146,7 @@ private:
       else target.Member->SetFromString(target.Object, AText);
     } catch (const Exception& e) {
       Fail("Invalid value " + Quoted(AText) + " for " + Quoted(AKey) + " of component '" + AComponent->GetName() +
-           "': " + e.Message());
+           "': " + EscapedUtf8Excerpt(e.Message(), MaxMessageBytes));
     }
   }
 
@@ -170,7 +179,7 @@ private:
            "'");
     TValue value;
     if (!TValue(static_cast<TObject*>(component)).TryCast(AType, value))
-      Fail("Component '" + AText + "' is no " + AType->Name + " for " + Quoted(AKey) + " of component '" +
+      Fail("Component " + Quoted(AText) + " is no " + AType->Name + " for " + Quoted(AKey) + " of component '" +
            AComponent->GetName() + "'");
     return value;
   }

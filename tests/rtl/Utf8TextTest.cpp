@@ -29,6 +29,10 @@ TEST(Utf8TextTest, BytesThatAreNoUtf8AreEscapedOneByOne) {
     EXPECT_EQ(EscapedUtf8(ARow.Text), ARow.Escaped);
     EXPECT_EQ(IsValidUtf8(ARow.Text), String(ARow.Text) == ARow.Escaped);
   });
+  // An excerpt ends where a character does, and says that it was cut.
+  EXPECT_EQ(EscapedUtf8Excerpt("\xC3\xA9\xC3\xA9", 3), "\xC3\xA9...");
+  EXPECT_EQ(EscapedUtf8Excerpt("\xC3\xA9\xC3\xA9", 4), "\xC3\xA9\xC3\xA9");
+  EXPECT_EQ(EscapedUtf8Excerpt("a\xFF\xFEb", 2), "a\\xFF...");
 }
 
 } // namespace
