@@ -260,25 +260,10 @@ TEST_F(DesignerListenerTest, SubclassNoticesCarryTheirObjectAndIgnoreBrackets) {
 
 using DesignerComponentTest = DesignerTest;
 
-// The constructor already sees the designing and loading state; the edit root owns the component.
-TEST_F(DesignerComponentTest, ConstructorSeesDesigningAndLoadingState) {
-  const struct {
-    const char* Name;
-    Boolean DesignMode, Loading;
-    TComponentState Seen;
-  } cases[] = {{"designing", true, false, {csDesigning}}, {"loading out of design mode", false, true, {csLoading}}};
-  Testing::ForEachRow(cases, [](const auto& c) {
-    const auto designer = New<TTestFormDesigner>();
-    designer->DesignMode = c.DesignMode;
-    const auto* widget = Create(*designer, c.Loading);
-    EXPECT_EQ(widget->StateInConstructor, c.Seen);
-    EXPECT_EQ(widget->Owner(), designer->Root.get());
-  });
-}
-
-// Named through UniqueName, prepared when the class adds members at run time; the stock designer
-// takes the base name as it is and makes unowned designing components.
-TEST_F(DesignerComponentTest, NamedThroughUniqueNameAndPreparedWhenDynamic) {
+// Named through UniqueName, prepared when the class adds members at run time, owned by the edit
+// root; the constructor already sees the designing state, or out of design mode the loading one.
+// The stock designer takes the base name as it is and makes unowned designing components.
+TEST_F(DesignerComponentTest, NamedThroughUniqueNamePreparedWhenDynamicAndBuiltInTheRightState) {
   const auto designer = New<TTestFormDesigner>();
   const auto* dynamic = Create<TDesignerTestDynamicWidget>(*designer);
   const auto* plain = Create(*designer);
@@ -286,6 +271,10 @@ TEST_F(DesignerComponentTest, NamedThroughUniqueNameAndPreparedWhenDynamic) {
   EXPECT_EQ(dynamic->GetName(), "DesignerTestDynamicWidget1");
   EXPECT_EQ(plain->GetName(), "DesignerTestWidget2");
   EXPECT_TRUE(dynamic->Prepared && !plain->Prepared);
+  EXPECT_TRUE(plain->StateInConstructor == TComponentState{csDesigning} && plain->Owner() == designer->Root.get());
+  designer->DesignMode = false;
+  const auto* loaded = Create(*designer, true);
+  EXPECT_TRUE(loaded->StateInConstructor == TComponentState{csLoading} && loaded->Owner() == designer->Root.get());
 
   auto* stock = Create(*Designer);
   EXPECT_EQ(stock->GetName(), "DesignerTestWidget");

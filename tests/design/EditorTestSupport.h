@@ -2,6 +2,8 @@
 // What every editor test needs: a designer that logs what the editors tell it, and a one-line
 // way to build an editor for a member the way a host does, through the editor's class reference.
 
+#include <gtest/gtest.h>
+
 #include <vector>
 
 #include "design/Designer.h"
@@ -39,5 +41,18 @@ TRef<E> MakeEditor(const TRef<IDesigner>& ADesigner, const String& AName, TObjec
       TMemberEditorClass(E::ClassInfo()).Create(AOwnerObject, AParent, ADesigner, AShared, AName, AFirst);
   return TRef<E>(static_cast<E*>(editor));
 }
+
+// Two gadgets of class G selected in a logging designer; editors are of class D unless a test
+// names another.
+template <class G, class D> class GadgetEditorTest : public testing::Test {
+protected:
+  GadgetEditorTest() { FDesigner->Select({&FFirst, &FSecond}); }
+
+  template <class E = D> TRef<E> Editor(const String& AName) { return MakeEditor<E>(FDesigner, AName); }
+
+  std::vector<String> FLog;
+  TRef<TLoggingDesigner> FDesigner = New<TLoggingDesigner>(FLog);
+  G FFirst, FSecond;
+};
 
 } // namespace Tarvo::Testing

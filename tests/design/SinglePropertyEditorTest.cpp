@@ -232,7 +232,8 @@ TEST_F(SinglePropertyEditorTest, ReadsTakeTheRootSelectionAndWritesTheSelection)
   EXPECT_EQ((std::vector<Integer>{FFirst.FLevel, FSecond.FLevel, FThird.FLevel}), (std::vector<Integer>{5, 5, 5}));
 }
 
-// Under a parent row, each selected object stands for its nested object, for reads and writes.
+// Under a parent row, each selected object stands for its nested object, for reads and writes; a
+// parent row that is no single property editor is refused by name.
 TEST_F(SinglePropertyEditorTest, ParentEditorMapsSelectedObjectsToTheirNestedObjects) {
   TSpeGadget firstChild{"FirstChild", 10}, secondChild{"SecondChild", 20};
   FFirst.FChild = &firstChild;
@@ -254,13 +255,10 @@ TEST_F(SinglePropertyEditorTest, ParentEditorMapsSelectedObjectsToTheirNestedObj
 
   Select({});
   EXPECT_EQ(child->GetOwnerObject(), nullptr);
-}
 
-// The exact message when the parent row is no single property editor.
-TEST_F(SinglePropertyEditorTest, OwnerObjectUnderAParentThatIsNoPropertyEditorFails) {
-  const TRef<TMemberEditor> parent = Editor<TMemberEditor>("Child");
+  const TRef<TMemberEditor> plain = Editor<TMemberEditor>("Child");
   Testing::ExpectError<EInvalidCast>(
-      [&] { Editor("Level", nullptr, parent.get())->GetOwnerObject(); },
+      [&] { Editor("Level", nullptr, plain.get())->GetOwnerObject(); },
       "Invalid class typecast: the parent editor TMemberEditor is no single property editor");
 }
 

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QPalette>
+#include <QColor>
 
 #include <functional>
 #include <set>
@@ -67,28 +66,6 @@ TEST(ColorNamesTest, ValuesComeInTableOrder) {
     EXPECT_TRUE(IdentToColor(name, color)) << name;
     EXPECT_EQ(ColorToString(color), name);
   }
-}
-
-// A system colour shows the palette's colour of its role, read when asked, as plain 0x00BBGGRR.
-TEST(ColorNamesTest, SystemColoursResolveThroughThePalette) {
-  const QPalette saved = QApplication::palette();
-  QPalette palette = saved;
-  palette.setColor(QPalette::Active, QPalette::Highlight, QColor(0x10, 0x20, 0x30));
-  palette.setColor(QPalette::Active, QPalette::Button, QColor(0x40, 0x50, 0x60));
-  QApplication::setPalette(palette);
-  const struct {
-    const char* Name;
-    const char* Text;
-    TColor Resolved;
-  } rows[] = {
-      {"highlight", "clHighlight", 0x302010},
-      {"button face", "clBtnFace", 0x605040},
-      {"scroll bar, also the button's", "clScrollBar", 0x605040},
-      {"fixed colour as it is", "clTeal", 0x808000},
-      {"clNone as it is", "clNone", clNone},
-  };
-  ForEachRow(rows, [](const auto& ARow) { EXPECT_EQ(ColorToRGB(StringToColor(ARow.Text)), ARow.Resolved); });
-  QApplication::setPalette(saved);
 }
 
 TEST(AlphaColorNamesTest, NamesAndTextsBothWays) {

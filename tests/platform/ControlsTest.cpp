@@ -43,11 +43,13 @@ TEST_F(ColorTest, ResolvesSystemColoursAndSwapsTheChannelsForARGB) {
                {"window text", clWindowText, 0x312111, 0xFF112131u},
                {"highlight", clHighlight, 0x322212, 0xFF122232u},
                {"highlighted text", clHighlightText, 0x332313, 0xFF132333u},
+               {"scroll bar, the first index: the button's too", SystemColor(scScrollBar), 0x342414, 0xFF142434u},
                {"button face", clBtnFace, 0x342414, 0xFF142434u},
                {"button text", SystemColor(scBtnText), 0x352515, 0xFF152535u},
                {"grey text, disabled", SystemColor(scGrayText), 0x362616, 0xFF162636u},
                {"tooltip background", SystemColor(scInfoBackground), 0x372717, 0xFF172737u},
                {"a plain colour", 0x00336699, 0x00336699, 0xFF996633u},
+               {"a value past the colours, as clNone", 0x1FFFFFFF, 0x1FFFFFFF, 0xFFFFFFFFu},
                {"an index the palette lacks", TColor(0xFF000019u), 0, 0xFF000000u},
                {"an index past the palette", TColor(0xFF0000FEu), 0, 0xFF000000u}};
   Testing::ForEachRow(table, [](const auto& row) {

@@ -66,51 +66,39 @@ TEST(ComponentNameTest, OnlyIdentifiersAreNamesAndReflectionPassesTheErrorThroug
   EXPECT_THROW(member->SetFromString(component.get(), "9lives"), EComponentError);
 }
 
-// Names are unique among an owner's components in any case; empty names never collide.
-TEST(ComponentNameTest, NamesAreUniqueAmongAnOwnersComponentsWhateverTheCase) {
-  const TComponentPtr owner(Construct<TComponent>(nullptr));
-  TComponent* first = NewLogged(owner.get(), "Button1");
-  TComponent* second = NewLogged(owner.get(), "Other");
-  EXPECT_EQ(NameError(*second, "BUTTON1"), "A component named BUTTON1 already exists");
-  EXPECT_EQ(second->GetName(), "Other");
-  EXPECT_EQ(NameError(*first, "BUTTON1"), ""); // its own name in another case
-  EXPECT_EQ(owner->FindComponent("button1"), first);
-
-  // Components of other owners may share a name; taking one in checks its name against the new
-  // owner's, and a refused one stays where it was.
-  const TComponentPtr elsewhere(NewLogged(nullptr, "Other"));
-  TComponent* stranger = NewLogged(elsewhere.get(), "Button1");
-  EXPECT_THROW(owner->InsertComponent(stranger), EComponentError);
-  EXPECT_EQ(stranger->Owner(), elsewhere.get());
-  EXPECT_EQ(NameError(*second, "") + NameError(*first, ""), "");
-  EXPECT_EQ(owner->FindComponent(""), nullptr);
-}
-
-// The owner's index of names follows renames, frees and moves: a name that was given up is free
-// again at once, and the moved component's name goes with it.
-TEST(ComponentNameTest, TheIndexOfNamesFollowsRenamesFreesAndMoves) {
+// Names are unique among an owner's components in any case, and empty names never collide. The
+// owner's index of names follows renames, frees and moves: a name given up is free again at once.
+TEST(ComponentNameTest, NamesAreUniqueAmongAnOwnersComponentsAndTheIndexFollowsThem) {
   const TComponentPtr owner(Construct<TComponent>(nullptr));
   const TComponentPtr other(Construct<TComponent>(nullptr));
   TComponent* first = NewLogged(owner.get(), "Scope1");
   TComponent* second = NewLogged(owner.get(), "Scope2");
-  EXPECT_EQ(NameError(*first, "SCOPE1"), ""); // its own name in another case
-  EXPECT_EQ(NameError(*second, "scope1"), "A component named scope1 already exists");
-  EXPECT_EQ(owner->FindComponent("Scope1"), first);
+  EXPECT_EQ(NameError(*second, "SCOPE1"), "A component named SCOPE1 already exists");
+  EXPECT_EQ(second->GetName(), "Scope2");
+  EXPECT_EQ(NameError(*first, "scope1"), ""); // its own name in another case
+  EXPECT_EQ(owner->FindComponent("SCOPE1"), first);
+
+  // Components of other owners may share a name; taking one in checks its name against the new
+  // owner's, and a refused one stays where it was.
+  TComponent* stranger = NewLogged(other.get(), "Scope1");
+  EXPECT_THROW(owner->InsertComponent(stranger), EComponentError);
+  EXPECT_EQ(stranger->Owner(), other.get());
+  TObject::Free(stranger);
 
   EXPECT_EQ(NameError(*first, "Renamed"), "");
   EXPECT_EQ(owner->FindComponent("scope1"), nullptr);
-  EXPECT_EQ(NameError(*second, "Scope1"), ""); // the old name is free again
-
+  EXPECT_EQ(NameError(*second, "Scope1"), "");
   TObject::Free(first);
   EXPECT_EQ(owner->FindComponent("Renamed"), nullptr);
   EXPECT_EQ(NewLogged(owner.get(), "RENAMED")->Owner(), owner.get());
 
-  other->InsertComponent(second);
+  other->InsertComponent(second); // the name goes with the component
   EXPECT_EQ(owner->FindComponent("Scope1"), nullptr);
   EXPECT_EQ(other->FindComponent("SCOPE1"), second);
   EXPECT_EQ(NewLogged(owner.get(), "Scope1")->Owner(), owner.get());
-  EXPECT_EQ(NameError(*second, ""), ""); // a nameless component is in no index
+  EXPECT_EQ(NameError(*second, "") + NameError(*NewLogged(other.get(), "Third"), ""), "");
   EXPECT_EQ(other->FindComponent("Scope1"), nullptr);
+  EXPECT_EQ(other->FindComponent(""), nullptr);
 }
 
 // Unique names take the lowest free number, in any case; a number given up by a free or a rename

