@@ -73,6 +73,15 @@ void SweepMemberCategories(TModule* AModule) {
     dynamic_cast<TMemberCategoryInstance&>(*instance).SweepModule(AModule);
 }
 
+std::size_t MemberCategoryFilterCount() {
+  std::size_t count = 0;
+  if (GMemberCategories)
+    for (const TRef<IMemberCategoryInstance>& instance : *GMemberCategories)
+      for (Integer kind = 0; kind <= mkSet; ++kind)
+        count += dynamic_cast<TMemberCategoryInstance&>(*instance).GetFilters(TMemberKind(kind))->GetCount();
+  return count;
+}
+
 // ---- The heading row ----
 
 TARVO_IMPLEMENT_CLASS(TCategoryEditor)

@@ -129,6 +129,8 @@ void RegisterMemberCategoriesOf(TClass AComponentClass);
 
 // Drops what the categories know of AModule's classes and types.
 void SweepMemberCategories(TModule* AModule);
+// The filters of every category and kind, all together.
+std::size_t MemberCategoryFilterCount();
 
 // Compiled once, in design/instances/.
 TARVO_ARRAY_LIST_INSTANCES(extern, TRef<IMemberCategoryInstance>)

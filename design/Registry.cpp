@@ -1,5 +1,7 @@
 #include "design/Registry.h"
 
+#include <utility>
+
 #include "reflection/RowAttributes.h"
 #include "reflection/RttiTypes.h"
 #include "rtl/SysUtils.h"
@@ -11,10 +13,19 @@ TARVO_IMPLEMENT_CLASS(TMemberEditorItem)
 TRef<ILinkedList<TRef<IMemberEditorItem>>> GMemberEditors;
 TFallbackEditorClasses DefaultEditorClasses;
 
+namespace {
+TModule* GRegistrationOrigin = nullptr;
+} // namespace
+
 TMemberEditorItem::TMemberEditorItem(TMemberKinds AKinds, TRef<ITypeInfo> AMemberType, TClass AOwnerClass,
                                      const String& AMemberName, TMemberEditorClass AEditorClass)
     : Kinds(AKinds), MemberType(std::move(AMemberType)), MemberName(AOwnerClass ? AMemberName : String()),
-      OwnerClass(AOwnerClass), EditorClass(AEditorClass) {}
+      OwnerClass(AOwnerClass), EditorClass(AEditorClass), Origin(GRegistrationOrigin) {}
+
+TEditorRegistrationOrigin::TEditorRegistrationOrigin(TModule* AModule)
+    : FPrevious(std::exchange(GRegistrationOrigin, AModule)) {}
+
+TEditorRegistrationOrigin::~TEditorRegistrationOrigin() { GRegistrationOrigin = FPrevious; }
 
 // ---- Registration ----
 
@@ -183,7 +194,8 @@ void SweepMemberEditors(TModule* AModule) {
   if (!GMemberEditors) return;
   GMemberEditors->RemoveAll([AModule](const TRef<IMemberEditorItem>& AEntry) {
     const TMemberEditorItem& item = *AEntry->GetInstance();
-    return item.ClassType()->Module() == AModule || (item.OwnerClass && item.OwnerClass->Module() == AModule) ||
+    return item.Origin == AModule || item.ClassType()->Module() == AModule ||
+           (item.OwnerClass && item.OwnerClass->Module() == AModule) ||
            (item.EditorClass && item.EditorClass->Module() == AModule) ||
            (item.MemberType && item.MemberType->GetHandle()->Module() == AModule);
   });

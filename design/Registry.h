@@ -35,6 +35,23 @@ public:
   const String MemberName;
   const TClass OwnerClass;
   const TMemberEditorClass EditorClass;
+  // The module on whose behalf the package made the entry (see TEditorRegistrationOrigin); nil
+  // for an entry registered for its own sake.
+  TModule* const Origin;
+};
+
+// Entries registered while one lasts leave with AModule when it unloads, whatever classes and
+// types they name: those the package makes for a module's component classes (a hidden member of
+// a runtime type is registered for TObject, which no module holds).
+class TEditorRegistrationOrigin {
+public:
+  explicit TEditorRegistrationOrigin(TModule* AModule);
+  ~TEditorRegistrationOrigin();
+  TEditorRegistrationOrigin(const TEditorRegistrationOrigin&) = delete;
+  TEditorRegistrationOrigin& operator=(const TEditorRegistrationOrigin&) = delete;
+
+private:
+  TModule* FPrevious;
 };
 
 using IMemberEditorItemList = IArrayList<TRef<IMemberEditorItem>>;
@@ -88,7 +105,8 @@ TARVO_API bool GetMemberEditorEntries(const TRef<IMemberInfo>& AMember, TObject*
 TARVO_API bool GetMemberEditorClasses(const TRef<IMemberInfo>& AMember, TObject* AObject,
                                       TRef<IArrayList<TMemberEditorClass>>& AResult);
 
-// Removes every entry whose item class, owner class, editor class or member type lies in AModule.
+// Removes every entry whose item class, owner class, editor class or member type lies in AModule,
+// and every entry made on its behalf.
 void SweepMemberEditors(TModule* AModule);
 
 // Compiled once, in design/instances/.

@@ -19,6 +19,8 @@ namespace {
 int GComponentRegisteredKey = 0;
 int GComponentRegistrationKey = 0;
 int GModuleUnloadKey = 0;
+int GEditorEntriesSizeKey = 0;
+int GCategoryFiltersSizeKey = 0;
 
 void SweepModule(TModule* AModule) {
   SweepMemberEditors(AModule);
@@ -38,9 +40,13 @@ void InitializeDesignUnit() {
   SetInjectedInterfaceQuery(QueryInjectedInterface);
   GComponentRegistrationKey = AddComponentRegistrationProcedure(RegisterMemberCategoriesOf);
   GModuleUnloadKey = AddModuleUnloadProc(SweepModule);
+  GEditorEntriesSizeKey = AddSweptRegistry("editor entries", [] { return std::size_t(GMemberEditors->GetCount()); });
+  GCategoryFiltersSizeKey = AddSweptRegistry("category filters", MemberCategoryFilterCount);
 }
 
 void FinalizeDesignUnit() {
+  RemoveSweptRegistry(GCategoryFiltersSizeKey);
+  RemoveSweptRegistry(GEditorEntriesSizeKey);
   RemoveModuleUnloadProc(GModuleUnloadKey);
   RemoveComponentRegistrationProcedure(GComponentRegistrationKey);
   UnregisterComponentRegisteredNotify(GComponentRegisteredKey);

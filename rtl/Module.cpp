@@ -155,6 +155,7 @@ void RemoveSweptRegistry(int AKey) { Registry().SizeReports.Remove(AKey); }
 
 std::map<std::string, std::size_t> SweptRegistrySizes() {
   std::map<std::string, std::size_t> sizes;
+  for (const auto& module : Registry().Modules) sizes["classes"] += module->Classes().size();
   Registry().SizeReports.Run(sizes);
   return sizes;
 }

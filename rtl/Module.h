@@ -82,7 +82,7 @@ void RemoveModuleUnloadProc(int AKey);
 std::vector<TModule*> Modules();
 
 // The registries that sweep a module's entries out as it unloads report their sizes by name, so
-// that what a module leaves behind can be seen.
+// that what a module leaves behind can be seen; "classes" counts the classes of every module.
 int AddSweptRegistry(std::string AName, std::function<std::size_t()> ASize);
 void RemoveSweptRegistry(int AKey);
 std::map<std::string, std::size_t> SweptRegistrySizes();

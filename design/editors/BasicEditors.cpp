@@ -47,6 +47,7 @@ void VisitHiddenMembers(const TRef<IClassTypeInfo>& AType, std::unordered_set<PT
 } // namespace
 
 void RegisterHiddenMembers(TClass AComponentClass) {
+  const TEditorRegistrationOrigin origin(AComponentClass->Module());
   std::unordered_set<PTypeInfo> visited;
   VisitHiddenMembers(TRttiObjectHelper::ClassTypeInfo(AComponentClass), visited);
 }

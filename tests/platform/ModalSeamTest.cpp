@@ -19,7 +19,7 @@ TEST(ModalSeamTest, HandlerFillsAndClosesTheDialog) {
   } closes[] = {{"accepted", QDialog::Accepted}, {"rejected", QDialog::Rejected}};
   Testing::ForEachRow(closes, [](const auto& AClose) {
     const int code = AClose.Code;
-    QColorDialog dialog(QColor(Qt::red));
+    QColorDialog dialog{QColor(Qt::red)};
     TModalHandlerScope scope([code](QDialog& ADialog) {
       auto* colorDialog = qobject_cast<QColorDialog*>(&ADialog);
       EXPECT_NE(colorDialog, nullptr);

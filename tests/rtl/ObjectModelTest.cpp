@@ -132,8 +132,8 @@ TEST(MetaClassTest, VirtualConstructorBuildsTheReferencedClass) {
     TObject::Free(shape);
   }
   EXPECT_EQ(corners, 7);
-  EXPECT_THROW(TClassOf<TShapeBase>(TShapeBase::ClassInfo()).Create(std::string()), EInvalidCast); // abstract
-  EXPECT_THROW(TClassOf<TSquare>(TTriangle::ClassInfo()), EInvalidCast);
+  EXPECT_THROW(TClassOf<TShapeBase>{TShapeBase::ClassInfo()}.Create(std::string()), EInvalidCast); // abstract
+  EXPECT_THROW(TClassOf<TSquare>{TTriangle::ClassInfo()}, EInvalidCast);
 }
 
 } // namespace
