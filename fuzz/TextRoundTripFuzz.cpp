@@ -33,14 +33,29 @@ TFormatSettings Settings(uint8_t AChoice) {
   return settings;
 }
 
-// AWrite(AValue) reads back with ARead to a value that AWrite writes as the same text.
+// How far apart two values lie: for moments in time, not as numbers, since before day 0 the
+// fraction counts away from zero (-1.75 is 18:00 of the day -1, which follows -2.25).
+long double Distance(Extended A, Extended B) { return std::fabs(A - B); }
+long double Distance(Single A, Single B) { return std::fabs(A - B); }
+long double Moment(TDateTime AValue) {
+  const long double day = std::trunc(AValue);
+  return day + std::fabs(AValue - day);
+}
+long double Distance(TDateTime A, TDateTime B) { return std::fabs(Moment(A) - Moment(B)); }
+
+// AWrite(AValue) reads back with ARead to a value no further from AValue than the text's
+// precision (AMaxDifference), and that value's own text reads back to it exactly.
 template <class T, class W, class R>
-void ExpectReadBack(T AValue, W AWrite, R ARead, const TFormatSettings& ASettings, const char* AWhat) {
+void ExpectReadBack(T AValue, W AWrite, R ARead, const TFormatSettings& ASettings, const char* AWhat,
+                    long double AMaxDifference) {
   const String written = AWrite(AValue, ASettings);
   T read{};
   Expect(ARead(written, read, ASettings), AWhat, written);
+  Expect(Distance(read, AValue) <= AMaxDifference, AWhat, written + "\" read too far off");
   const String again = AWrite(read, ASettings);
-  Expect(again == written, AWhat, written + "\" read and written as \"" + again);
+  T readAgain{};
+  Expect(ARead(again, readAgain, ASettings) && readAgain == read, AWhat,
+         written + "\" read and written as \"" + again + "\", which reads otherwise");
 }
 
 using TSettings = const TFormatSettings&;
@@ -80,15 +95,20 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* AData, size_t ASize) {
   const std::string_view text(reinterpret_cast<const char*>(AData + 17), ASize - 17);
 
   if (std::isfinite(number)) {
-    ExpectReadBack(Extended(number), WriteExtended, ReadExtended, settings, "a float's text does not read back");
-    ExpectReadBack(Single(number), WriteSingle, ReadSingle, settings, "a single's text does not read back");
+    ExpectReadBack(Extended(number), WriteExtended, ReadExtended, settings, "a float's text does not read back",
+                   std::fabs(number) * 1e-14L);
+    if (std::fabs(number) < 3e38)
+      ExpectReadBack(Single(number), WriteSingle, ReadSingle, settings, "a single's text does not read back",
+                     std::fabs(Single(number)) * 1e-6L);
   }
-  // A moment between 0001-01-01 and 9999-12-31 23:59:59.999.
-  const double first = -693593, last = 2958466;
+  // A moment between 0001-01-01 and 9999-12-31 23:59:58 (later ones round into the year 10000).
+  const double first = -693593, last = 2958465 + 86398.0 / 86400;
   const TDateTime moment = first + (last - first) * (double(bits >> 11) / double(uint64_t(1) << 53));
-  ExpectReadBack(moment, WriteMoment, ReadMoment, settings, "a moment's text does not read back");
-  ExpectReadBack(moment, WriteDate, ReadDate, settings, "a date's text does not read back");
-  ExpectReadBack(moment, WriteTime, ReadTime, settings, "a time's text does not read back");
+  const long double second = 1.0L / 86400;
+  ExpectReadBack(moment, WriteMoment, ReadMoment, settings, "a moment's text does not read back", second * 1.001L);
+  ExpectReadBack(moment, WriteDate, ReadDate, settings, "a date's text does not read back", 1.0L);
+  // A time's text has no date: only its own read back is compared.
+  ExpectReadBack(moment, WriteTime, ReadTime, settings, "a time's text does not read back", HUGE_VALL);
 
   // Any text: read or refused; what is read writes a text that reads back to the same value.
   Extended value;

@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "rtl/Value.h"
+#include "rtl/Variant.h"
 #include "runtime/Events.h"
 #include "runtime/NamedTypes.h"
 

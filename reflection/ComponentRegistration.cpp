@@ -7,6 +7,8 @@
 
 namespace Tarvo {
 
+TARVO_IMPLEMENT_EXCEPTION(EComponentRegistrationError)
+
 namespace {
 
 using THooks = TKeyedHandlers<TClass>;

@@ -8,9 +8,13 @@
 
 namespace Tarvo {
 
+// Every exception class has its destructor, and with it its table of virtual functions, in the
+// library that declares it: an exception a component module raises is often caught and freed
+// after the module has been unloaded, when code of the module's own could no longer run.
 class Exception : public std::exception {
 public:
   explicit Exception(std::string AMessage) : FMessage(std::move(AMessage)) {}
+  ~Exception() override;
   const char* what() const noexcept override { return FMessage.c_str(); }
   const std::string& Message() const noexcept { return FMessage; }
 
@@ -18,12 +22,15 @@ private:
   std::string FMessage;
 };
 
-// Declares an exception class that adds nothing but its meaning.
+// Declares an exception class that adds nothing but its meaning; TARVO_IMPLEMENT_EXCEPTION in one
+// source file of its library gives it its destructor.
 #define TARVO_DECLARE_EXCEPTION(AName, AParent)                                                                        \
   class AName : public AParent {                                                                                       \
   public:                                                                                                              \
     using AParent::AParent;                                                                                            \
+    ~AName() override;                                                                                                 \
   };
+#define TARVO_IMPLEMENT_EXCEPTION(AName) AName::~AName() = default;
 
 TARVO_DECLARE_EXCEPTION(EConvertError, Exception)
 TARVO_DECLARE_EXCEPTION(EInvalidCast, Exception)

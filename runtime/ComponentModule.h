@@ -52,6 +52,10 @@
 // component class) refers to another component of the design: set it with SetComponentReference
 // and clear it in Notification when that component goes.
 //
+// A setter refuses a value by raising one of the runtime's exceptions (EConvertError, say): the
+// host may catch it after the module is gone, when an exception class of the module's own could
+// no longer be freed.
+//
 // Mistakes found when the module loads (a member published twice, a class name another module
 // took, a non-component on a palette page) make LoadModule refuse the whole module with
 // "cannot load module FILE: CLASS.MEMBER: MESSAGE", leaving nothing of it registered.

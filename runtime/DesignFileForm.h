@@ -31,8 +31,9 @@ inline constexpr std::size_t MaxTextBytes = 1 << 20;
 inline constexpr std::size_t MaxMessageBytes = 400;
 
 // Components nest at most this deep: far more than any form needs, and few enough that the
-// recursive walks of reader, writer and serializer stay far from the end of the stack.
-inline constexpr std::size_t MaxNesting = 512;
+// recursive walks of reader, writer and serializer stay far from the end of the stack (512 levels
+// overflowed a sanitized debug build's 8 MB in the serializer).
+inline constexpr std::size_t MaxNesting = 256;
 // Refuses a design whose components nest deeper than MaxNesting below the components of
 // ANames, the outermost first.
 [[noreturn]] void FailNesting(std::span<const std::string_view> ANames);

@@ -9,6 +9,8 @@
 
 namespace Tarvo {
 
+TARVO_IMPLEMENT_EXCEPTION(EDesignFileError)
+
 using namespace DesignFile;
 
 namespace {

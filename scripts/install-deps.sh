@@ -2,7 +2,7 @@
 # Installs from Debian the packages the build needs, and only those that are missing.
 set -euo pipefail
 
-packages=(cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev qt6-base-dev nlohmann-json3-dev ccache fonts-dejavu-core)
+packages=(cmake ninja-build g++ clang libclang-rt-14-dev pkg-config libgtest-dev libgmock-dev libbenchmark-dev qt6-base-dev nlohmann-json3-dev ccache fonts-dejavu-core)
 
 missing=()
 for p in "${packages[@]}"; do

@@ -3,6 +3,7 @@
 #include "design/MemberCategoryRegistry.h"
 #include "design/Registry.h"
 #include "design/editors/BasicEditors.h"
+#include "design/editors/ClassEditors.h"
 #include "host/grid/SelectionMembers.h"
 #include "rtl/SysUtils.h"
 
@@ -150,7 +151,7 @@ void TGridRows::ReadTexts(TGridRow& ARow) {
   const TRef<IMemberEditor>& editor = ARow.Editor;
   ARow.Name = editor->GetName();
   ARow.DisplayName = editor->GetDisplayName();
-  ARow.ReadOnly = editor->GetIsReadOnly();
+  ARow.ReadOnly = editor->GetIsReadOnly() || RefersThroughAReadOnlyMember(ARow);
   ARow.Expandable = editor->GetIsExpandable() && HasSubRows(editor);
   if (ARow.Property) {
     const Boolean readable = !ARow.Property->GetIsWriteOnly();
@@ -163,6 +164,14 @@ void TGridRows::ReadTexts(TGridRow& ARow) {
   } else if (TRef<IMethodEditor> method; Supports(editor, method)) {
     ARow.Value = method->GetFunctionParamString();
   }
+}
+
+// A component reference's editor never says it is read-only, and writes the member itself: with
+// no writer behind it (a component's Owner), every text would be refused.
+Boolean TGridRows::RefersThroughAReadOnlyMember(const TGridRow& ARow) {
+  TRef<ISinglePropertyInfo> property;
+  return dynamic_cast<TComponentPropertyEditor*>(ARow.Editor.get()) && Supports(ARow.Member, property) &&
+         !property->GetIsWritable();
 }
 
 void TGridRows::MakeChildren(TGridRow& ARow) {

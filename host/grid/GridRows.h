@@ -92,6 +92,7 @@ private:
   std::vector<std::unique_ptr<TGridRow>> MemberRows(TObject* AFirst);
   void MakeChildren(TGridRow& ARow);
   void ReadTexts(TGridRow& ARow);
+  static Boolean RefersThroughAReadOnlyMember(const TGridRow& ARow);
   void Sort(std::vector<std::unique_ptr<TGridRow>>& ARows);
   Boolean Matches(TGridRow& ARow);
   // Adds the shown rows of ARow's subtree; true when any was added.

@@ -7,6 +7,8 @@
 
 namespace Tarvo {
 
+TARVO_IMPLEMENT_EXCEPTION(EInspectError)
+
 TGridRow& FindRow(TGridRows& ARows, const String& APath) {
   if (TGridRow* row = ARows.Find(APath); row && ARows.Prepare(*row)) return *row;
   // Say whether the path ran into a row that does not expand.

@@ -1,4 +1,5 @@
-// expect: TValueMustFitThePropertyType<std::__cxx11::basic_string<char>, bool>.*static assertion failed: a \.Default
+// expect: TValueMustFitThePropertyType<std::(__cxx11::)?basic_string<char>, bool>
+// expect: a \.Default\(\.\.\.\) or \.Limits\(\.\.\.\) value does not fit the property's type
 // A flag is no text.
 #include "reflection/Publish.h"
 

@@ -1,4 +1,5 @@
-// expect: TValueMustFitThePropertyType<unsigned char, double>.*static assertion failed: a \.Default
+// expect: TValueMustFitThePropertyType<unsigned char, double>
+// expect: a \.Default\(\.\.\.\) or \.Limits\(\.\.\.\) value does not fit the property's type
 // A fraction would be cut to a whole number without a word.
 #include "reflection/Publish.h"
 

@@ -1,4 +1,5 @@
-// expect: TValueMustFitThePropertyType<unsigned char, char \[2\]>.*static assertion failed: a \.Default\(\.\.\.\) or \.Limits\(\.\.\.\) value does not fit the property's type
+// expect: TValueMustFitThePropertyType<unsigned char, char ?\[2\]>
+// expect: a \.Default\(\.\.\.\) or \.Limits\(\.\.\.\) value does not fit the property's type
 // A text for a Byte compiled, and then stopped the host while the module loaded.
 #include "reflection/Publish.h"
 

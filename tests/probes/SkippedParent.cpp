@@ -1,4 +1,5 @@
-// expect: static assertion failed.*the parent is not the class's direct base
+// expect: static.assert(ion)? failed
+// expect: the parent is not the class's direct base
 // TB derives from TA but names TObject: InheritsFrom(TA) would be false.
 #include "rtl/Object.h"
 

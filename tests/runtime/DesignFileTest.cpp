@@ -215,22 +215,22 @@ String NestedPanels(int ADepth) {
   return Design(text);
 }
 
-// Components nest 512 levels deep at most, when read and when written; one level more is refused
+// Components nest 256 levels deep at most, when read and when written; one level more is refused
 // with the place, and nothing of a refused file stays.
 TEST_F(DesignFileTest, NestingBeyondTheLimitIsRefusedWithItsPlace) {
   const String message =
-      "Components nest deeper than 512 levels under 'Panel1.Panel2.Panel3...Panel510.Panel511.Panel512'";
-  Testing::ExpectError<EDesignFileError>([this] { ReadDesign(NestedPanels(513), FRoot.get()); }, message);
+      "Components nest deeper than 256 levels under 'Panel1.Panel2.Panel3...Panel254.Panel255.Panel256'";
+  Testing::ExpectError<EDesignFileError>([this] { ReadDesign(NestedPanels(257), FRoot.get()); }, message);
   EXPECT_EQ(FRoot->ComponentCount(), 0);
 
-  ReadDesign(NestedPanels(512), FRoot.get());
+  ReadDesign(NestedPanels(256), FRoot.get());
   const String written = WriteDesign(FRoot.get());
   EXPECT_EQ(std::ranges::count(written, '\n'), 1) << "a deep design is written compact, on one line";
   TOwnedObject<TComponent> copy(Construct<TComponent>(nullptr));
-  EXPECT_EQ(ReadDesign(written, copy.get()).size(), 512u);
+  EXPECT_EQ(ReadDesign(written, copy.get()).size(), 256u);
   TControl* below = Construct<TShape>(FRoot.get());
   below->SetName("Shape1");
-  below->SetParent(dynamic_cast<TWinControl*>(FRoot->FindComponent("Panel512")));
+  below->SetParent(dynamic_cast<TWinControl*>(FRoot->FindComponent("Panel256")));
   Testing::ExpectError<EDesignFileError>([this] { WriteDesign(FRoot.get()); }, message);
 }
 

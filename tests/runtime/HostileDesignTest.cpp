@@ -36,7 +36,7 @@ TEST(HostileDesignTest, IsRefusedByPlaceWithAShortMessageAndLeavesNothingBehind)
   };
   const TRow rows[] = {
       {"components nested 10,000 deep", HostileNesting(10000),
-       "Components nest deeper than 512 levels under 'Panel1.Panel2.Panel3...Panel510.Panel511.Panel512'"},
+       "Components nest deeper than 256 levels under 'Panel1.Panel2.Panel3...Panel254.Panel255.Panel256'"},
       {"a value nested 100,000 lists deep",
        HostileDesign(HostileShape("Shape1", R"("Hint": )" + String(100000, '[') + String(100000, ']'))),
        "The value of 'Hint' of component 'Shape1' must be a text"},

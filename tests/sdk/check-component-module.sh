@@ -17,9 +17,9 @@ echo "== the example with CMake"
 cmake -S "$example" -B "$work/cmake" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$compiler" >/dev/null
 cmake --build "$work/cmake" >/dev/null
 
-echo "== the example with the compiler and pkg-config"
+echo "== the example with g++ and pkg-config"
 cp -r "$example" "$work/by-hand"
-(cd "$work/by-hand" && PKG_CONFIG_PATH="$prefix/lib/pkgconfig" CXX="$compiler" ./build-with-compiler.sh)
+(cd "$work/by-hand" && PKG_CONFIG_PATH="$prefix/lib/pkgconfig" CXX=g++ ./build-with-compiler.sh)
 
 inspect() { "$prefix/bin/tarvo-inspect" --design "$example/thermostat.json" "$@"; }
 for module in "$work/cmake/libclimate.so" "$work/by-hand/libclimate.so"; do
