@@ -72,9 +72,10 @@ std::vector<TInspectorRow> TRowModel::Rows() {
 }
 
 TRef<IPropertyEditor> TRowModel::ValueEditor(const String& APath) {
-  const TGridRow& row = Find(APath);
+  TGridRow& row = Find(APath);
   if (!row.Property) throw EInspectError("row \"" + row.Path() + "\" has no value");
-  if (row.Property->GetIsReadOnly()) throw EInspectError("row \"" + row.Path() + "\" is read-only");
+  FRows->Prepare(row);
+  if (row.ReadOnly) throw EInspectError("row \"" + row.Path() + "\" is read-only");
   return row.Property;
 }
 

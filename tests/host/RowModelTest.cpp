@@ -62,7 +62,15 @@ TEST_F(RowModelTest, RowsAreTheCommonMembersWithAVisibleEditorSortedByName) {
   EXPECT_EQ(Row(rows, "Advance")->EditorName, "TMethodEditor");
   EXPECT_EQ(Row(rows, "Advance")->Value, "(ACount: Cardinal)");
 
+  // A component reference with no writer behind it is shown read-only, though its editor never
+  // says so; one with a writer can be set.
+  EXPECT_EQ(Row(rows, "Owner")->EditorName, "TComponentPropertyEditor");
+  EXPECT_TRUE(Row(rows, "Owner")->ReadOnly);
+  EXPECT_FALSE(Row(Select({"Scope1"}), "Source")->ReadOnly);
+  rows = Select({"Generator1"});
+
   using Testing::ExpectError;
+  ExpectError<EInspectError>([&] { FInspector.SetValue("Owner", "Scope1"); }, "row \"Owner\" is read-only");
   ExpectError<EInspectError>([&] { FInspector.SetValue("OnStart", "x"); }, "row \"OnStart\" has no value");
   ExpectError<EInspectError>([&] { FInspector.Find("Frequency.Size"); },
                              "no row \"Frequency.Size\": \"Frequency\" does not expand");
