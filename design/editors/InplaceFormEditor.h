@@ -17,6 +17,15 @@ template <class F> struct TInplaceFormInfo;
 
 // TBase is the editor the form is added to. A base that offers a form of its own keeps it hidden
 // behind this one.
+//
+// An editor may stack a second form over a base that has one (the alpha colour editor over the
+// Cardinal editor's slider): its hooks then overload the base's on another form class, and its
+// UpdateInplace overrides the base's. Both are meant.
+#ifdef __clang__
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Woverloaded-virtual"
+#pragma clang diagnostic ignored "-Winconsistent-missing-override"
+#endif
 template <class TBase, class TForm>
 class TARVO_API TInplaceFormEditor : public TImplements<TBase, IPropertyEditorInplace> {
 public:
@@ -55,5 +64,8 @@ protected:
 private:
   std::shared_ptr<const bool> FAlive = std::make_shared<const bool>(true);
 };
+#ifdef __clang__
+#pragma clang diagnostic pop
+#endif
 
 } // namespace Tarvo
