@@ -3,9 +3,11 @@
 # author would: with CMake and find_package, and with the compiler and pkg-config alone. Both
 # builds must load in the installed tarvo-inspect and show the rows expected; a program using the
 # design package must build against the installed headers and libraries.
-#   check-component-module.sh BUILD_DIR SOURCE_DIR CXX_COMPILER
+#   check-component-module.sh BUILD_DIR SOURCE_DIR CXX_COMPILER [PROGRAM_FLAGS]
+# PROGRAM_FLAGS are those a program needs to link against this build's libraries (a sanitized
+# build's libraries want the sanitizer's runtime in the program).
 set -euo pipefail
-build=$1 source=$2 compiler=$3
+build=$1 source=$2 compiler=$3 program_flags=${4:-}
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 example=$source/examples/component-module
@@ -49,8 +51,9 @@ cat >"$work/host/Host.cpp" <<'CPP'
 #include "design/editors/ColorEditors.h"
 int main() { return Tarvo::TColorPropertyEditor::ClassInfo() == nullptr; }
 CPP
-cmake -S "$work/host" -B "$work/host/build" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$compiler" >/dev/null
-cmake --build "$work/host/build" >/dev/null
+cmake -S "$work/host" -B "$work/host/build" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$compiler" \
+  -DCMAKE_CXX_FLAGS="$program_flags" >/dev/null
+cmake --build "$work/host/build" >"$work/host/build.log" 2>&1 || { cat "$work/host/build.log"; exit 1; }
 
 echo "== a class declared but never implemented fails the module's link, by name"
 mkdir "$work/forgotten"
