@@ -90,4 +90,8 @@ private:
   Boolean FLastClickOnNode = false;
 };
 
+// Compiled once, in forms/instances/TreeNodeLists.cpp: the dialog's unit stays light.
+TARVO_ARRAY_LIST_INSTANCES(extern, TRef<TTarvoTreeSelectDialogForm::TNode>)
+TARVO_ARRAY_LIST_INSTANCES(extern, TRef<TTarvoTreeSelectDialogForm::TNodeList>)
+
 } // namespace Tarvo

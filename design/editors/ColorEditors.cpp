@@ -5,6 +5,7 @@
 #include "design/Registry.h"
 #include "design/editors/ColorEditorBaseImpl.h"
 #include "design/editors/EditorFamilies.h"
+#include "design/editors/IdentifierEditors.h"
 #include "platform/ColorNames.h"
 #include "platform/GXPens.h"
 #include "platform/ModalSeam.h"
@@ -29,8 +30,7 @@ void TColorPropertyEditor::SetStringValue(const String& AValue) {
 }
 
 TRef<IStringArrayList> TColorPropertyEditor::GetStringListValues() {
-  const TRef<IStringArrayList> result = New<TStringArrayList>();
-  GetColorValues([&](const String& AName) { result->Add(AName); });
+  const TRef<IStringArrayList> result = NameList(GetColorValues);
   if (GetFirstMember()->HasCustomAttribute(ExcludeSystemColorsAttribute::ClassInfo(), true))
     // clDefault and clNone go too, though neither is a system colour.
     result->RemoveAll([](const String& AName) {

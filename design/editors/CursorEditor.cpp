@@ -45,11 +45,7 @@ void TCursorPropertyEditor::SetStringValue(const String& AValue) {
   else TSinglePropertyEditor::SetStringValue(AValue);
 }
 
-TRef<IStringArrayList> TCursorPropertyEditor::GetStringListValues() {
-  const TRef<IStringArrayList> result = New<TStringArrayList>();
-  GetCursorValues([&](const String& AName) { result->Add(AName); });
-  return result;
-}
+TRef<IStringArrayList> TCursorPropertyEditor::GetStringListValues() { return NameList(GetCursorValues); }
 
 Boolean TCursorPropertyEditor::PaintCursor(Integer ACursor, TAlphaColor ABackground, Boolean AFramed) {
   QImage& image = FBitmap->GetQImage();

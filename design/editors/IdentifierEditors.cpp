@@ -19,6 +19,12 @@ TRef<IStringArrayList> ValueTexts(const TRef<IValueArrayList>& AValues,
   return result;
 }
 
+TRef<IStringArrayList> NameList(void (*AGetValues)(const TGetStrProc&)) {
+  const TRef<IStringArrayList> result = New<TStringArrayList>();
+  AGetValues([&](const String& AName) { result->Add(AName); });
+  return result;
+}
+
 // ---- Charsets ----
 
 TRef<IStringArrayList> TFontCharsetPropertyEditor::GetStringValues(const TRef<IObjectArrayList>& AObjectsList) {
@@ -34,11 +40,7 @@ void TFontCharsetPropertyEditor::SetStringValue(const String& AValue) {
   else TSinglePropertyEditor::SetStringValue(AValue);
 }
 
-TRef<IStringArrayList> TFontCharsetPropertyEditor::GetStringListValues() {
-  const TRef<IStringArrayList> result = New<TStringArrayList>();
-  GetCharsetValues([&](const String& AName) { result->Add(AName); });
-  return result;
-}
+TRef<IStringArrayList> TFontCharsetPropertyEditor::GetStringListValues() { return NameList(GetCharsetValues); }
 
 // ---- Modal results ----
 

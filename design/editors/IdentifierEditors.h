@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "design/editors/OrdinalEditors.h"
+#include "platform/NamedValues.h"
 #include "runtime/NamedTypes.h"
 
 namespace Tarvo {
@@ -14,6 +15,8 @@ namespace Tarvo {
 // One text a value, in order, by AText.
 TRef<IStringArrayList> ValueTexts(const TRef<IValueArrayList>& AValues,
                                   const std::function<String(const TValue&)>& AText);
+// The names of a platform's table (GetColorValues, GetCursorValues, ...), in its order.
+TRef<IStringArrayList> NameList(void (*AGetValues)(const TGetStrProc&));
 
 class TARVO_API TFontCharsetPropertyEditor
     : public TImplements<TBasicIntegerPropertyEditor, IPropertyEditorDropDownStringList> {

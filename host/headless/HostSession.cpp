@@ -1,7 +1,5 @@
 #include "host/headless/HostSession.h"
 
-#include <nlohmann/json.hpp>
-
 #include "design/MemberCategoryRegistry.h"
 #include "host/headless/DialogAnswer.h"
 #include "host/headless/GridPicture.h"
@@ -11,7 +9,6 @@
 #include "host/headless/RowWriters.h"
 #include "platform/LocaleSettings.h"
 #include "platform/ModalSeam.h"
-#include "reflection/ComponentRegistration.h"
 #include "runtime/DesignFile.h"
 
 namespace Tarvo {
@@ -32,17 +29,6 @@ public:
 private:
   TFormatSettings FSaved;
 };
-
-String ClassesText(Boolean AJson) {
-  nlohmann::ordered_json json = nlohmann::ordered_json::array();
-  String text;
-  for (const TClass componentClass : GetRegisteredComponents()->ToArray()) {
-    const String page = GetComponentPage(componentClass);
-    json.push_back({{"class", componentClass->ClassName()}, {"page", page}});
-    text += String(componentClass->ClassName()) + " (" + page + ")\n";
-  }
-  return AJson ? json.dump(2) + "\n" : text;
-}
 
 void Select(IDesigner& ADesigner, TComponent* ARoot, const std::vector<String>& ANames) {
   const TRef<IObjectArrayList> selection = New<TObjectArrayList>();

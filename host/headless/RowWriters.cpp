@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "reflection/ComponentRegistration.h"
+
 namespace Tarvo {
 
 namespace {
@@ -93,5 +95,16 @@ String ValuesToText(const std::vector<String>& AValues) {
 }
 
 String ValuesToJson(const std::vector<String>& AValues) { return nlohmann::ordered_json(AValues).dump(2) + "\n"; }
+
+String ClassesText(Boolean AJson) {
+  nlohmann::ordered_json json = nlohmann::ordered_json::array();
+  String text;
+  for (const TClass componentClass : GetRegisteredComponents()->ToArray()) {
+    const String page = GetComponentPage(componentClass);
+    json.push_back({{"class", componentClass->ClassName()}, {"page", page}});
+    text += String(componentClass->ClassName()) + " (" + page + ")\n";
+  }
+  return AJson ? json.dump(2) + "\n" : text;
+}
 
 } // namespace Tarvo

@@ -22,4 +22,8 @@ String RowsToJson(const std::vector<TInspectorRow>& ARows);
 String ValuesToText(const std::vector<String>& AValues);
 String ValuesToJson(const std::vector<String>& AValues);
 
+// The registered component classes with their palette pages: "TClass (Page)" a line, or a JSON
+// array of objects with class and page.
+String ClassesText(Boolean AJson);
+
 } // namespace Tarvo

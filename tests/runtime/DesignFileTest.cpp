@@ -152,12 +152,25 @@ TEST_F(DesignFileTest, ChildrenAreOwnedByTheRootAndParentedOnlyToAWindowControl)
   EXPECT_TRUE(made[1]->ComponentState().Contains(csDesigning));
 }
 
-// Each kind of bad input gets its own message, and nothing of a refused design stays.
+// Window controls nested ADepth deep, Panel1 outermost.
+String NestedPanels(int ADepth) {
+  String text;
+  for (int i = 1; i <= ADepth; ++i)
+    text +=
+        R"({"class": "TWinControl", "name": "Panel)" + std::to_string(i) + (i < ADepth ? R"(", "children": [)" : "\"}");
+  for (int i = 1; i < ADepth; ++i) text += "]}";
+  return Design(text);
+}
+
+// Each kind of bad input gets its own message, naming the place and quoting no more than a line of
+// what the file holds, and nothing of a refused design stays. (A cycle of references is a design
+// like any other: see the first test.)
 TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
+  const String huge(50 << 20, 'a');
   const struct {
     const char* Name;
     String Json;
-    const char* Message;
+    String Message;
   } rows[] = {
       {"unknown class", Design(R"({"class": "TFoo", "name": "Foo1"})"), "Unknown class 'TFoo' for component 'Foo1'"},
       {"no component class", Design(R"({"class": "TFont", "name": "Font1"})"),
@@ -193,26 +206,29 @@ TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
       {"components not a list", R"({"components": {"class": "TShape"}})", "components must be a list of components"},
       {"unknown design key", R"({"parts": []})", "The design: unknown key \"parts\""},
       {"no components", R"({})", "The design has no \"components\""},
-      {"no JSON", R"({"components": [}")", "The design is no valid JSON: parse error at line 1, column 17"}};
+      {"no JSON", R"({"components": [}")", "The design is no valid JSON: parse error at line 1, column 17"},
+      {"components nested 10,000 deep", NestedPanels(10000),
+       "Components nest deeper than 256 levels under 'Panel1.Panel2.Panel3...Panel254.Panel255.Panel256'"},
+      {"a value nested 100,000 lists deep", Gauge1(R"("Caption": )" + String(100000, '[') + String(100000, ']')),
+       "The value of 'Caption' of component 'Gauge1' must be a text"},
+      {"a 50 MB value", Gauge1(R"("Caption": ")" + huge + "\""),
+       "The value of 'Caption' of component 'Gauge1' holds 52428800 bytes; a text of a design holds at most 1048576"},
+      {"a 50 MB name", Design(R"({"class": "TShape", "name": ")" + huge + "\"}"),
+       "components[0]: \"name\" holds 52428800 bytes; a text of a design holds at most 1048576"},
+      {"a long unknown member", Gauge1("\"" + String(300, 'k') + R"(": "1")"),
+       "Unknown property '" + String(80, 'k') + "...' of component 'Gauge1' (TDesignFileTestGauge)"},
+      {"a value too long to quote whole", Gauge1(R"("Value": ")" + String(2000, '9') + "\""),
+       "Invalid value '" + String(80, '9') + "...' for 'Value' of component 'Gauge1': '" + String(300, '9')}};
   Testing::ForEachRow(rows, [this](const auto& ARow) {
     try {
       ReadDesign(ARow.Json, FRoot.get());
       ADD_FAILURE() << "read without an error";
     } catch (const EDesignFileError& e) {
-      EXPECT_EQ(e.Message().substr(0, std::strlen(ARow.Message)), ARow.Message);
+      EXPECT_EQ(e.Message().substr(0, ARow.Message.size()), ARow.Message);
+      EXPECT_LT(e.Message().size(), 1000u);
     }
     EXPECT_EQ(FRoot->ComponentCount(), 0);
   });
-}
-
-// Window controls nested ADepth deep, Panel1 outermost.
-String NestedPanels(int ADepth) {
-  String text;
-  for (int i = 1; i <= ADepth; ++i)
-    text +=
-        R"({"class": "TWinControl", "name": "Panel)" + std::to_string(i) + (i < ADepth ? R"(", "children": [)" : "\"}");
-  for (int i = 1; i < ADepth; ++i) text += "]}";
-  return Design(text);
 }
 
 // Components nest 256 levels deep at most, when read and when written; one level more is refused
