@@ -9,9 +9,11 @@ namespace Tarvo::DesignFile {
 TJson ParseDesignText(const String& AText) {
   try {
     return TJson::parse(AText);
-  } catch (const TJson::parse_error& e) {
+  } catch (const TJson::exception& e) {
+    // A syntax error quotes the token it read last, which may be a whole unterminated text; a
+    // number out of range quotes the number.
     const std::string_view detail = e.what();
-    Fail("The design is no valid JSON: " + EscapedUtf8(detail.substr(detail.find("] ") + 2)));
+    Fail("The design is no valid JSON: " + EscapedUtf8Excerpt(detail.substr(detail.find("] ") + 2), MaxMessageBytes));
   }
 }
 

@@ -207,6 +207,10 @@ TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
       {"unknown design key", R"({"parts": []})", "The design: unknown key \"parts\""},
       {"no components", R"({})", "The design has no \"components\""},
       {"no JSON", R"({"components": [}")", "The design is no valid JSON: parse error at line 1, column 17"},
+      {"a number out of range", Gauge1(R"("Value": 8e888)"), "The design is no valid JSON: number overflow parsing '8e888'"},
+      {"a 50 MB text never closed", Gauge1(R"("Caption": ")" + huge),
+       "The design is no valid JSON: parse error at line 1, column 52428900: syntax error while parsing value - "
+       "invalid string: missing closing quote; last read: '\"aaaa"},
       {"components nested 10,000 deep", NestedPanels(10000),
        "Components nest deeper than 256 levels under 'Panel1.Panel2.Panel3...Panel254.Panel255.Panel256'"},
       {"a value nested 100,000 lists deep", Gauge1(R"("Caption": )" + String(100000, '[') + String(100000, ']')),
