@@ -162,15 +162,16 @@ String NestedPanels(int ADepth) {
   return Design(text);
 }
 
-// Each kind of bad input gets its own message, naming the place and quoting no more than a line of
-// what the file holds, and nothing of a refused design stays. (A cycle of references is a design
-// like any other: see the first test.)
+// Each kind of bad input gets its own message, naming the place and quoting at most a few hundred
+// bytes of what the file holds, and nothing of a refused design stays. (A cycle of references is a
+// design like any other: see the first test.)
 TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
   const String huge(50 << 20, 'a');
   const struct {
     const char* Name;
     String Json;
     String Message;
+    bool MessageGoesOn = false; // the message only begins so: its rest is a long excerpt of the file
   } rows[] = {
       {"unknown class", Design(R"({"class": "TFoo", "name": "Foo1"})"), "Unknown class 'TFoo' for component 'Foo1'"},
       {"no component class", Design(R"({"class": "TFont", "name": "Font1"})"),
@@ -178,7 +179,7 @@ TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
       {"abstract class after a made one",
        Design(R"({"class": "TShape", "name": "Shape1"}, {"class": "TDesignFileTestAbstract", "name": "Abstract1"})"),
        "Cannot create component 'Abstract1' of class 'TDesignFileTestAbstract': Cannot create an instance of the "
-       "abstract class"},
+       "abstract class TDesignFileTestAbstract"},
       {"unpublished property", Gauge1(R"("Secret": "1")"),
        "Unknown property 'Secret' of component 'Gauge1' (TDesignFileTestGauge)"},
       {"unknown property of a nested object", Gauge1(R"("Part.Size": "1")"),
@@ -206,11 +207,13 @@ TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
       {"components not a list", R"({"components": {"class": "TShape"}})", "components must be a list of components"},
       {"unknown design key", R"({"parts": []})", "The design: unknown key \"parts\""},
       {"no components", R"({})", "The design has no \"components\""},
-      {"no JSON", R"({"components": [}")", "The design is no valid JSON: parse error at line 1, column 17"},
+      {"no JSON", R"({"components": [}")", "The design is no valid JSON: parse error at line 1, column 17: syntax error while parsing value - unexpected "
+       "'}'; expected '[', '{', or a literal"},
       {"a number out of range", Gauge1(R"("Value": 8e888)"), "The design is no valid JSON: number overflow parsing '8e888'"},
       {"a 50 MB text never closed", Gauge1(R"("Caption": ")" + huge),
        "The design is no valid JSON: parse error at line 1, column 52428900: syntax error while parsing value - "
-       "invalid string: missing closing quote; last read: '\"aaaa"},
+       "invalid string: missing closing quote; last read: '\"aaaa",
+       true},
       {"components nested 10,000 deep", NestedPanels(10000),
        "Components nest deeper than 256 levels under 'Panel1.Panel2.Panel3...Panel254.Panel255.Panel256'"},
       {"a value nested 100,000 lists deep", Gauge1(R"("Caption": )" + String(100000, '[') + String(100000, ']')),
@@ -222,13 +225,13 @@ TEST_F(DesignFileTest, BadInputIsNamedAndLeavesTheRootAsItWas) {
       {"a long unknown member", Gauge1("\"" + String(300, 'k') + R"(": "1")"),
        "Unknown property '" + String(80, 'k') + "...' of component 'Gauge1' (TDesignFileTestGauge)"},
       {"a value too long to quote whole", Gauge1(R"("Value": ")" + String(2000, '9') + "\""),
-       "Invalid value '" + String(80, '9') + "...' for 'Value' of component 'Gauge1': '" + String(300, '9')}};
+       "Invalid value '" + String(80, '9') + "...' for 'Value' of component 'Gauge1': '" + String(300, '9'), true}};
   Testing::ForEachRow(rows, [this](const auto& ARow) {
     try {
       ReadDesign(ARow.Json, FRoot.get());
       ADD_FAILURE() << "read without an error";
     } catch (const EDesignFileError& e) {
-      EXPECT_EQ(e.Message().substr(0, ARow.Message.size()), ARow.Message);
+      EXPECT_EQ(ARow.MessageGoesOn ? e.Message().substr(0, ARow.Message.size()) : e.Message(), ARow.Message);
       EXPECT_LT(e.Message().size(), 1000u);
     }
     EXPECT_EQ(FRoot->ComponentCount(), 0);
